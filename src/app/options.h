@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 zelFLIGHTAB developers
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace zel {
+
+/// The command line of zelflightab.
+struct Options {
+    bool console = false;
+    std::optional<std::string> file;       ///< console commands, else standard input
+    std::optional<std::string> locale;     ///< QLocale name: en_US, de_DE, fr_CH
+    std::optional<std::string> symbols;    ///< decimal then grouping symbol
+    std::optional<std::string> folder;     ///< the program folder (settings, kept pages)
+    std::optional<std::string> script;     ///< console commands run against the window
+    std::optional<std::string> screenshot; ///< picture of the window, then exit
+    std::string error;                     ///< why the command line cannot be used
+};
+
+Options parseOptions(const std::vector<std::string>& arguments);
+
+} // namespace zel

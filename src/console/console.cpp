@@ -1,0 +1,316 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 zelFLIGHTAB developers
+#include "console/console.h"
+
+#include "app/options.h"
+#include "platform/qtregional.h"
+
+#include <charconv>
+#include <fstream>
+#include <iostream>
+#include <vector>
+
+namespace zel {
+namespace {
+
+std::string_view iconName(MessageIcon icon) {
+    switch (icon) {
+    case MessageIcon::Information:
+        return "information";
+    case MessageIcon::Exclamation:
+        return "exclamation";
+    case MessageIcon::Critical:
+        return "critical";
+    }
+    return "information";
+}
+
+/// A whole number in [low, high], or nothing.
+std::optional<int> number(std::string_view text, int low, int high) {
+    int value = 0;
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
+    if (error != std::errc() || end != text.data() + text.size() || value < low || value > high) {
+        return std::nullopt;
+    }
+    return value;
+}
+
+/// Decodes one UTF-8 character at `at`, advancing it; a stray byte stands for itself.
+char32_t nextCharacter(std::string_view text, std::size_t& at) {
+    const auto lead = static_cast<unsigned char>(text[at++]);
+    int extra = lead >= 0xF0 ? 3 : lead >= 0xE0 ? 2 : lead >= 0xC0 ? 1 : 0;
+    char32_t code = extra == 0 ? lead : lead & (0x3F >> extra);
+    for (; extra > 0 && at < text.size(); --extra) {
+        code = (code << 6) | (static_cast<unsigned char>(text[at++]) & 0x3F);
+    }
+    return code;
+}
+
+std::optional<int> keyCode(std::string_view name) {
+    if (name == "enter") {
+        return key::Enter;
+    }
+    if (name == "escape") {
+        return key::Escape;
+    }
+    if (name.size() >= 2 && name[0] == 'f') {
+        if (const auto n = number(name.substr(1), 1, 12)) {
+            return key::F1 + *n - 1;
+        }
+    }
+    return std::nullopt;
+}
+
+} // namespace
+
+std::string quoted(std::string_view text) {
+    std::string out = "\"";
+    for (char c : text) {
+        switch (c) {
+        case '"':
+            out += "\\\"";
+            break;
+        case '\\':
+            out += "\\\\";
+            break;
+        case '\r':
+            out += "\\r";
+            break;
+        case '\n':
+            out += "\\n";
+            break;
+        default:
+            out += c;
+        }
+    }
+    return out + "\"";
+}
+
+void ConsoleInteraction::beep() {
+    m_out << "beep\n";
+}
+
+void ConsoleInteraction::message(MessageIcon icon, std::string_view title, std::string_view text) {
+    m_out << "message " << iconName(icon) << ' ' << quoted(title) << ' ' << quoted(text) << '\n';
+}
+
+std::optional<ConsoleInteraction::Answer> ConsoleInteraction::nextAnswer() {
+    if (m_answers.empty()) {
+        return std::nullopt;
+    }
+    Answer answer = std::move(m_answers.front());
+    m_answers.pop_front();
+    return answer;
+}
+
+bool ConsoleInteraction::question(std::string_view title, std::string_view text) {
+    const auto answer = nextAnswer();
+    const bool yes = answer && answer->kind == Answer::Kind::Yes;
+    m_out << "question " << quoted(title) << ' ' << quoted(text) << " -> " << (yes ? "yes" : "no")
+          << '\n';
+    return yes;
+}
+
+std::optional<std::string> ConsoleInteraction::input(std::string_view title,
+                                                     std::string_view prompt) {
+    const auto answer = nextAnswer();
+    m_out << "input " << quoted(title) << ' ' << quoted(prompt) << " -> ";
+    if (answer && answer->kind == Answer::Kind::Text) {
+        m_out << quoted(answer->text) << '\n';
+        return answer->text;
+    }
+    m_out << "cancel\n";
+    return std::nullopt;
+}
+
+void ConsoleInteraction::setBusy(bool busy) {
+    m_out << (busy ? "busy on\n" : "busy off\n");
+}
+
+void ConsoleInteraction::quit() {
+    m_out << "quit\n";
+    m_quit = true;
+}
+
+ConsoleSession::ConsoleSession(Platform& platform, ConsoleInteraction& interaction,
+                               std::ostream& out)
+    : m_menu(platform), m_interaction(interaction), m_out(out) {}
+
+void ConsoleSession::start() {
+    m_menu.Form_Load();
+    m_menu.Form_Activate();
+}
+
+std::optional<std::string> ConsoleSession::run(const std::string& rawLine) {
+    std::string_view line = rawLine;
+    if (line.ends_with('\r')) {
+        line.remove_suffix(1);
+    }
+    if (line.empty() || line.front() == '#') {
+        return std::nullopt;
+    }
+    const auto space = line.find(' ');
+    const std::string_view command = line.substr(0, space);
+    const std::string_view argument =
+        space == std::string_view::npos ? std::string_view{} : line.substr(space + 1);
+    auto needs = [&](int low, int high, auto&& handler) -> std::optional<std::string> {
+        const auto n = number(argument, low, high);
+        if (!n) {
+            return std::string(command) + " takes a number from " + std::to_string(low) + " to " +
+                   std::to_string(high);
+        }
+        handler(*n);
+        return std::nullopt;
+    };
+    auto bare = [&](auto&& handler) -> std::optional<std::string> {
+        if (!argument.empty() || space != std::string_view::npos) {
+            return std::string(command) + " takes no argument";
+        }
+        handler();
+        return std::nullopt;
+    };
+
+    if (command == "page") {
+        return needs(1, 18, [&](int n) { m_menu.LabMenu_Click(n); });
+    }
+    if (command == "row") {
+        return needs(1, 8, [&](int n) { m_menu.LabValue_Click(n); });
+    }
+    if (command == "op") {
+        return needs(0, 5, [&](int n) { m_menu.LabOP_Click(n); });
+    }
+    if (command == "mem") {
+        return needs(0, 2, [&](int n) { m_menu.LabMEM_Click(n); });
+    }
+    if (command == "type") {
+        if (space == std::string_view::npos) {
+            return std::string("type needs the text to type");
+        }
+        for (std::size_t at = 0; at < argument.size() && !finished();) {
+            m_menu.Form_KeyPress(nextCharacter(argument, at));
+        }
+        return std::nullopt;
+    }
+    if (command == "key") {
+        if (argument != "backspace") {
+            return std::string("key takes backspace");
+        }
+        m_menu.Form_KeyPress(key::Backspace);
+        return std::nullopt;
+    }
+    if (command == "keyup") {
+        const auto code = keyCode(argument);
+        if (!code) {
+            return std::string("keyup takes enter, escape or f1 to f12");
+        }
+        m_menu.Form_KeyUp(*code);
+        return std::nullopt;
+    }
+    if (command == "answer") {
+        using Kind = ConsoleInteraction::Answer::Kind;
+        if (argument == "yes" || argument == "no" || argument == "cancel") {
+            const Kind kind = argument == "yes"  ? Kind::Yes
+                              : argument == "no" ? Kind::No
+                                                 : Kind::Cancel;
+            m_interaction.queue({kind, {}});
+            return std::nullopt;
+        }
+        if (argument.starts_with("text ")) {
+            m_interaction.queue({Kind::Text, std::string(argument.substr(5))});
+            return std::nullopt;
+        }
+        return std::string("answer takes yes, no, cancel or text TEXT");
+    }
+    if (command == "menu") {
+        return bare([&] { m_menu.LabelMenu_Click(); });
+    }
+    if (command == "digits") {
+        return bare([&] { m_menu.LabDEC_Click(); });
+    }
+    if (command == "clear") {
+        return bare([&] { m_menu.LabC_Click(); });
+    }
+    if (command == "activate") {
+        return bare([&] { m_menu.Form_Activate(); });
+    }
+    if (command == "show") {
+        return bare([&] { show(m_menu, m_out); });
+    }
+    if (command == "tags") {
+        return bare([&] {
+            for (int row = 1; row <= PageSheet::Rows; ++row) {
+                m_out << "tag " << row << ' ' << quoted(m_menu.row(row).tag) << '\n';
+            }
+        });
+    }
+    return "unknown command: " + std::string(command);
+}
+
+void ConsoleSession::show(const Menu& menu, std::ostream& out) {
+    out << "face " << (menu.face() == Face::Page ? "page" : "menu") << '\n';
+    out << "title " << quoted(menu.title()) << '\n';
+    out << "display " << quoted(menu.display()) << ' ' << menu.displaySize() << '\n';
+    out << "digits " << quoted(menu.digitsCaption()) << '\n';
+    out << "panels" << (menu.panelsVisible() ? " memory digits operators" : "") << '\n';
+    out << "mem";
+    for (int key = 0; key < 3; ++key) {
+        out << ' ' << quoted(menu.memoryCaption(key)) << (menu.memoryLit(key) ? "*" : "");
+    }
+    out << "\nops";
+    for (int key = 1; key <= ScratchPad::Operators; ++key) {
+        out << ' ' << quoted(menu.operatorCaption(key)) << (menu.operatorLit(key) ? "*" : "");
+    }
+    out << '\n';
+    for (int row = 1; row <= PageSheet::Rows; ++row) {
+        const RowCell& cell = menu.row(row);
+        out << "row " << row << ' ' << quoted(cell.unit) << ' ' << quoted(cell.caption) << ' '
+            << cell.fontSize << ' ' << (cell.input ? "input" : "normal") << '\n';
+    }
+}
+
+int runConsole(int argc, char** argv) {
+    const Options options = parseOptions(std::vector<std::string>(argv + 1, argv + argc));
+    if (!options.error.empty()) {
+        std::cerr << "error: " << options.error << '\n';
+        return 2;
+    }
+    std::optional<Symbols> replacement;
+    if (options.symbols) {
+        replacement = symbolsFromPair(*options.symbols);
+        if (!replacement) {
+            std::cerr << "error: --symbols takes two characters, the decimal then the grouping "
+                         "symbol\n";
+            return 2;
+        }
+    }
+    if (options.locale && !QtRegional::isKnownLocale(*options.locale)) {
+        std::cerr << "error: unknown locale: " << *options.locale << '\n';
+        return 2;
+    }
+    std::ifstream file;
+    if (options.file) {
+        file.open(*options.file);
+        if (!file) {
+            std::cerr << "error: cannot read " << *options.file << '\n';
+            return 2;
+        }
+    }
+    std::istream& in = options.file ? static_cast<std::istream&>(file) : std::cin;
+
+    QtRegional regional(options.locale, replacement);
+    ConsoleInteraction interaction(std::cout);
+    Platform platform{interaction, regional};
+    ConsoleSession session(platform, interaction, std::cout);
+    session.start();
+    std::string line;
+    for (int number = 1; !session.finished() && std::getline(in, line); ++number) {
+        if (const auto error = session.run(line)) {
+            std::cout.flush();
+            std::cerr << "error: line " << number << ": " << *error << '\n';
+            return 2;
+        }
+    }
+    return 0;
+}
+
+} // namespace zel

@@ -1,0 +1,71 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 zelFLIGHTAB developers
+#pragma once
+
+#include "app/menu.h"
+
+#include <deque>
+#include <iosfwd>
+#include <optional>
+#include <string>
+
+namespace zel {
+
+/// The text front end's dialogs: every message, question, input box, beep and
+/// busy pointer is printed as a line; questions and input boxes take answers
+/// queued beforehand ("answer yes", "answer text MXN").
+class ConsoleInteraction : public Interaction {
+  public:
+    explicit ConsoleInteraction(std::ostream& out) : m_out(out) {}
+
+    void beep() override;
+    void message(MessageIcon icon, std::string_view title, std::string_view text) override;
+    bool question(std::string_view title, std::string_view text) override;
+    std::optional<std::string> input(std::string_view title, std::string_view prompt) override;
+    void setBusy(bool busy) override;
+    void quit() override;
+
+    struct Answer {
+        enum class Kind { Yes, No, Cancel, Text } kind;
+        std::string text;
+    };
+    void queue(Answer answer) { m_answers.push_back(std::move(answer)); }
+    bool quitting() const { return m_quit; }
+
+  private:
+    std::optional<Answer> nextAnswer();
+
+    std::ostream& m_out;
+    std::deque<Answer> m_answers;
+    bool m_quit = false;
+};
+
+/// Runs console commands against a Menu, one line at a time.
+class ConsoleSession {
+  public:
+    ConsoleSession(Platform& platform, ConsoleInteraction& interaction, std::ostream& out);
+
+    /// Start-up, as the window does it: Form_Load, then Form_Activate.
+    void start();
+    /// Runs one line; the reason when the line cannot be read.
+    std::optional<std::string> run(const std::string& line);
+    bool finished() const { return m_interaction.quitting(); }
+    const Menu& menu() const { return m_menu; }
+
+    /// Prints the window's state, as the "show" command does.
+    static void show(const Menu& menu, std::ostream& out);
+
+  private:
+    Menu m_menu;
+    ConsoleInteraction& m_interaction;
+    std::ostream& m_out;
+};
+
+/// A text in double quotes, with \" \\ \r \n escaped.
+std::string quoted(std::string_view text);
+
+/// `zelflightab --console [FILE] [--locale NAME] [--symbols DG] [--folder DIR]`:
+/// runs the commands of FILE (or standard input); the process exit status.
+int runConsole(int argc, char** argv);
+
+} // namespace zel

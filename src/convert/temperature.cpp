@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 zelFLIGHTAB developers
+#include "convert/convert.h"
+
+namespace zel {
+
+void Convert_Temperature(PageSheet& page, double x, int& inputRow) {
+    // The typed value goes to Celsius in row 1 first; every row is then derived
+    // from what row 1 holds as text, so all rows agree with the row shown.
+    switch (inputRow) {
+    case 1:
+        page.setValue(1, x);
+        break;
+    case 2:
+        page.setValue(1, (x - 32) * 5 / 9);
+        break;
+    case 3:
+    case 4:
+        if (x < 0) {
+            page.beep(); // absolute scales have no negative values
+            return;
+        }
+        page.setValue(1, inputRow == 3 ? x - 273.15 : (x - 491.67) * 5 / 9);
+        break;
+    default:
+        break;
+    }
+    page.setValue(2, page.value(1) * 9 / 5 + 32);
+    page.setValue(3, page.value(1) + 273.15);
+    page.setValue(4, page.value(1) * 9 / 5 + 491.67);
+}
+
+} // namespace zel

@@ -1,0 +1,53 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 zelFLIGHTAB developers
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace zel {
+
+/// The regional number symbols: each is one character, kept as UTF-8 because
+/// some regions group digits with a non-breaking or thin space.
+struct Symbols {
+    std::string decimal = ".";
+    std::string grouping = ",";
+};
+
+/// Number of characters (not bytes) of a UTF-8 text: what a caption's length means.
+std::size_t charCount(std::string_view text);
+
+/// The general number-to-text conversion of a double, as value tags hold it:
+/// at most 15 significant digits, trailing zeros dropped, plain notation while
+/// the decimal exponent lies in -4..14, otherwise "1.5E-07" / "1E+20"; no grouping.
+std::string generalText(double value, const Symbols& symbols);
+
+/// The same conversion at single precision: 7 significant digits, plain
+/// notation while the decimal exponent lies in -4..6 ("101.9804", "1E+07").
+std::string singleText(float value, const Symbols& symbols);
+
+/// Formats a number with a display pattern made of '#', '0', ',' and '.'
+/// ("#,#0.00", "000", "#,#0.##############"): ',' asks for grouping, '0' for a
+/// digit that is always shown, '#' for one shown only when significant.
+/// Rounds half away from zero on the 15-significant-digit decimal value.
+std::string formatNumber(double value, std::string_view pattern, const Symbols& symbols);
+
+/// Reads a number written the regional way: optional blanks, an optional sign,
+/// digits with grouping and decimal symbols, an optional exponent.
+/// Returns nothing for any other text, or for a value beyond the double range.
+std::optional<double> readRegional(std::string_view text, const Symbols& symbols);
+
+/// `CGetal`: the value of a text, 0 for anything that is not a number.
+/// Where the decimal symbol is "." the text is read from its start the way a
+/// plain-number reader does (it stops at the first character that cannot continue
+/// the number, so "1,234" is 1); elsewhere it is read the regional way.
+double CGetal(std::string_view text, const Symbols& symbols);
+
+/// The regional reading of a stored text, 0 when it is not a number.
+double textValue(std::string_view text, const Symbols& symbols);
+
+/// `FilterNumeric`: the text with every "," and then every "." removed.
+std::string FilterNumeric(std::string_view text);
+
+} // namespace zel

@@ -1,0 +1,186 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 zelFLIGHTAB developers
+#include "entry/scratchpad.h"
+
+#include "entry/fault.h"
+
+#include <cmath>
+
+namespace zel {
+namespace {
+
+bool contains(std::string_view text, std::string_view part) {
+    return !part.empty() && text.find(part) != std::string_view::npos;
+}
+
+bool containsE(std::string_view text) {
+    return text.find_first_of("Ee") != std::string_view::npos;
+}
+
+void dropLastCharacter(std::string& text) {
+    while (!text.empty()) {
+        const auto byte = static_cast<unsigned char>(text.back());
+        text.pop_back();
+        if ((byte & 0xC0) != 0x80) {
+            break;
+        }
+    }
+}
+
+} // namespace
+
+void ScratchPad::reset(bool textPage) {
+    m_display = textPage ? "" : "0" + m_symbols.decimal;
+    m_inputValue = 0;
+    m_inputText = textPage ? "" : "0";
+    m_displaySize = 18;
+    if (m_newOperand) {
+        m_newOperand = false;
+    } else {
+        m_accumulator = 0;
+        m_pendingOperator = 0;
+    }
+}
+
+void ScratchPad::displayValue() {
+    const std::string& dec = m_symbols.decimal;
+    if (!contains(m_inputText, dec)) {
+        m_display = formatNumber(m_inputValue, "#,##0", m_symbols) + dec;
+    } else if (containsE(m_inputText)) {
+        m_display = m_inputText;
+    } else {
+        const std::string sign = m_inputValue < 0 ? "-" : "";
+        const double whole = std::trunc(std::fabs(m_inputValue));
+        const std::string typedFraction = m_inputText.substr(m_inputText.find(dec) + dec.size());
+        m_display = sign + formatNumber(whole, "#,##0", m_symbols) + dec + typedFraction;
+    }
+    m_displaySize = charCount(m_display) > 11 ? 10 : 18;
+}
+
+bool ScratchPad::typeDigit(int digit) {
+    const std::string& dec = m_symbols.decimal;
+    // The display takes at most 13 characters after the decimal symbol.
+    const auto at = m_display.find(dec);
+    const std::size_t length = charCount(m_display);
+    const std::size_t position =
+        at == std::string::npos ? 0 : charCount(std::string_view(m_display).substr(0, at)) + 1;
+    if (length - position >= 14) {
+        return false;
+    }
+    if (contains(m_inputText, dec)) {
+        m_inputText += static_cast<char>('0' + digit);
+        m_inputValue = CGetal(m_inputText, m_symbols);
+    } else {
+        // Whole digits accumulate arithmetically, keeping the sign shown.
+        const double sign = m_display.starts_with("-") ? -1 : 1;
+        m_inputValue = finite(sign * (std::fabs(m_inputValue) * 10 + digit));
+        m_inputText = generalText(m_inputValue, m_symbols);
+    }
+    displayValue();
+    return true;
+}
+
+void ScratchPad::typeDecimal() {
+    if (!contains(m_inputText, m_symbols.decimal)) {
+        m_inputText += m_symbols.decimal;
+    }
+}
+
+void ScratchPad::backspace() {
+    if (m_inputText.empty()) {
+        return;
+    }
+    dropLastCharacter(m_inputText);
+    if (m_inputText.ends_with(m_symbols.decimal)) {
+        m_inputText.resize(m_inputText.size() - m_symbols.decimal.size());
+    }
+    m_inputValue = CGetal(m_inputText, m_symbols);
+    displayValue();
+}
+
+void ScratchPad::select(const std::string& text) {
+    m_inputText = text;
+    m_inputValue = textValue(text, m_symbols);
+    displayValue();
+}
+
+bool ScratchPad::typeCodeCharacter(char c, std::size_t limit) {
+    if (m_inputText.size() >= limit) {
+        return false;
+    }
+    m_inputText += c;
+    m_display = m_inputText;
+    return true;
+}
+
+void ScratchPad::backspaceCode() {
+    if (!m_inputText.empty()) {
+        dropLastCharacter(m_inputText);
+        m_display = m_inputText;
+    }
+}
+
+void ScratchPad::operate(int key) {
+    if (key == 2 && m_inputValue == 0) {
+        // Minus on an empty entry starts a negative number.
+        m_display = "-0" + m_symbols.decimal;
+        m_inputText = "-0";
+        return;
+    }
+    double result = m_inputValue;
+    switch (m_pendingOperator) {
+    case 1:
+        result = finite(m_accumulator + m_inputValue);
+        break;
+    case 2:
+        result = finite(m_accumulator - m_inputValue);
+        break;
+    case 3:
+        result = finite(m_accumulator * m_inputValue);
+        break;
+    case 4:
+        result = divide(m_accumulator, m_inputValue);
+        break;
+    default:
+        break;
+    }
+    m_inputValue = result;
+    m_newOperand = true;
+    m_accumulator = result;
+    m_pendingOperator = key;
+    m_inputText = generalText(result, m_symbols);
+    displayValue();
+    m_operatorLit.fill(false);
+    if (key == 0) {
+        m_newOperand = false;
+    } else if (key <= 3) {
+        m_operatorLit.at(static_cast<std::size_t>(key)) = true;
+    } else {
+        m_operatorLit[4] = m_operatorLit[5] = true;
+    }
+}
+
+void ScratchPad::memoryKey(int key) {
+    switch (key) {
+    case 0:
+        if (m_inputValue != m_memory) {
+            m_inputValue = m_memory;
+            m_inputText = generalText(m_memory, m_symbols);
+        } else {
+            m_memory = 0;
+        }
+        displayValue();
+        break;
+    case 1:
+        m_memory = finite(m_memory + m_inputValue);
+        break;
+    case 2:
+        m_memory = finite(m_memory - m_inputValue);
+        break;
+    default:
+        return;
+    }
+    m_memoryLit = m_memory != 0;
+}
+
+} // namespace zel

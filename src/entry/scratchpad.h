@@ -1,0 +1,76 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 zelFLIGHTAB developers
+#pragma once
+
+#include "entry/numbertext.h"
+
+#include <array>
+#include <string>
+
+namespace zel {
+
+/// The number being typed and the small four-function calculator beside the
+/// rows: operand entry, chained operators with no precedence, and a memory.
+/// The entry is both the calculator's operand and the value a row click takes.
+class ScratchPad {
+  public:
+    /// Operator keys: 0 equals, 1 add, 2 subtract, 3 multiply, 4 divide. Key 5 is
+    /// the lower face of the divide key: it lights up like 4 but divides nothing.
+    static constexpr int Operators = 5;
+
+    explicit ScratchPad(const Symbols& symbols) : m_symbols(symbols) {}
+
+    const std::string& inputText() const { return m_inputText; }
+    double inputValue() const { return m_inputValue; }
+    const std::string& display() const { return m_display; }
+    int displaySize() const { return m_displaySize; }
+    double accumulator() const { return m_accumulator; }
+    int pendingOperator() const { return m_pendingOperator; }
+    bool newOperand() const { return m_newOperand; }
+    double memory() const { return m_memory; }
+    bool operatorLit(int key) const { return m_operatorLit.at(static_cast<std::size_t>(key)); }
+    bool memoryLit() const { return m_memoryLit; }
+
+    /// `ResetScratchPad`: clears the entry (to "" on a text page such as the
+    /// runway-state decoder), and the calculation too unless an operand is just
+    /// beginning after an operator key.
+    void reset(bool textPage);
+    /// `DisplayValue`: shows the entry the way a pocket calculator does.
+    void displayValue();
+    /// Shows a caption without touching the entry.
+    void setDisplay(std::string caption) { m_display = std::move(caption); }
+
+    /// A digit key. False when the display is full (the caller beeps).
+    bool typeDigit(int digit);
+    void typeDecimal();
+    void backspace();
+    /// The entry becomes a stored row value, as text and number.
+    void select(const std::string& text);
+
+    /// A character of a code entry (digits and "/"), at most `limit` characters.
+    bool typeCodeCharacter(char c, std::size_t limit);
+    void backspaceCode();
+
+    /// `LabOP_Click`. Throws ArithmeticFault, having changed nothing, when the
+    /// pending operation divides by zero or leaves the double range.
+    void operate(int key);
+    /// Forgets the pending operation (a row click ends an unfinished calculation).
+    void dropPending() { m_pendingOperator = 0; }
+    /// MRC (0: recall, or clear when already recalled), M+ (1), M- (2).
+    void memoryKey(int key);
+
+  private:
+    const Symbols& m_symbols;
+    std::string m_inputText = "0";
+    double m_inputValue = 0;
+    std::string m_display;
+    int m_displaySize = 18;
+    double m_accumulator = 0;
+    int m_pendingOperator = 0;
+    bool m_newOperand = false;
+    double m_memory = 0;
+    std::array<bool, Operators + 1> m_operatorLit{};
+    bool m_memoryLit = false;
+};
+
+} // namespace zel

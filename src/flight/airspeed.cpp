@@ -1,0 +1,190 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 zelFLIGHTAB developers
+#include "flight/airspeed.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <optional>
+
+namespace zel {
+namespace {
+
+enum Row { Altitude = 1, Mach = 2, Sat = 3, Cas = 4, Tat = 5, Eas = 6, Recovery = 7, Tas = 8 };
+
+constexpr double ZeroCelsius = 273.15;
+/// Impact pressure ratio at exactly Mach 1, where the two flow laws meet.
+const double SonicImpactPressure = std::pow(1.2, 3.5) - 1;
+
+/// Standard-atmosphere temperature at an altitude, kelvin: 1.98 K colder per
+/// 1000 ft up to the tropopause, where it stays at 216.65 K.
+double standardTemperature(double altitudeFeet) {
+    return std::max(288.15 - 0.0019812 * altitudeFeet, 216.65);
+}
+
+double kelvin(double celsius) {
+    return celsius + ZeroCelsius;
+}
+
+/// Total over static temperature for a Mach number and recovery factor.
+double heating(double mach, double kr) {
+    return 1 + 0.2 * kr * mach * mach;
+}
+
+/// Everything the page derives, before it is written.
+struct Solution {
+    double mach = 0;
+    double sat = 0;
+    double tat = 0;
+    bool satComputed = false;
+    bool tatComputed = false;
+};
+
+std::optional<Solution> solve(const PageSheet& page) {
+    const double h = page.value(Altitude);
+    const double kr = page.value(Recovery);
+    const double a0 = SeaLevelSoundSpeed;
+    const double delta = pressureRatio(h);
+    double sat = page.value(Sat);
+    double tat = page.value(Tat);
+    const bool satGiven = sat != 0;
+    const bool tatGiven = tat != 0;
+    if ((satGiven && kelvin(sat) <= 0) || (tatGiven && kelvin(tat) <= 0)) {
+        return std::nullopt; // below absolute zero
+    }
+
+    double mach = page.value(Mach);
+    if (mach == 0) {
+        if (satGiven && tatGiven) {
+            if (tat < sat) {
+                return std::nullopt; // the probe cannot read colder than the air
+            }
+            mach = std::sqrt((kelvin(tat) / kelvin(sat) - 1) / 0.2 / kr);
+        } else if (const double cas = page.value(Cas); cas != 0) {
+            mach = machFromImpactPressure(impactPressureRatio(cas / a0) / delta);
+        } else if (const double eas = page.value(Eas); eas != 0) {
+            mach = eas / (a0 * std::sqrt(delta));
+        } else {
+            const double tas = page.value(Tas);
+            const double staticKelvin = satGiven ? kelvin(sat)
+                                        : tatGiven
+                                            ? kelvin(tat) - 0.2 * kr * 288 * tas * tas / (a0 * a0)
+                                            : standardTemperature(h);
+            if (!(staticKelvin > 0)) {
+                return std::nullopt;
+            }
+            mach = tas / (a0 * std::sqrt(staticKelvin / 288));
+        }
+    }
+
+    Solution s{mach, sat, tat};
+    if (satGiven && !tatGiven) {
+        s.tat = kelvin(sat) * heating(mach, kr) - ZeroCelsius;
+        s.tatComputed = true;
+    } else if (tatGiven && !satGiven) {
+        s.sat = kelvin(tat) / heating(mach, kr) - ZeroCelsius;
+        s.satComputed = true;
+    } else if (!satGiven) {
+        s.sat = standardTemperature(h) - ZeroCelsius;
+        s.tat = kelvin(s.sat) * heating(mach, kr) - ZeroCelsius;
+        s.satComputed = s.tatComputed = true;
+    }
+    if (!std::isfinite(s.mach) || !std::isfinite(s.sat) || !std::isfinite(s.tat) ||
+        kelvin(s.sat) <= 0 || !std::isfinite(delta) || delta <= 0) {
+        return std::nullopt;
+    }
+    return s;
+}
+
+} // namespace
+
+double pressureRatio(double altitudeFeet) {
+    if (altitudeFeet < 36089) {
+        return std::pow(1 - 6.8753e-6 * altitudeFeet, 5.2561);
+    }
+    return 0.223363 * std::exp(-4.8062e-5 * (altitudeFeet - 36089));
+}
+
+double impactPressureRatio(double mach) {
+    if (mach <= 1) {
+        return std::pow(1 + 0.2 * mach * mach, 3.5) - 1;
+    }
+    return 166.92158 * std::pow(mach, 7) / std::pow(7 * mach * mach - 1, 2.5) - 1;
+}
+
+double machFromImpactPressure(double ratio) {
+    if (ratio <= SonicImpactPressure) {
+        return std::sqrt(5 * (std::pow(ratio + 1, 1 / 3.5) - 1));
+    }
+    // Above Mach 1 the pitot relation has no closed inverse. It rises steadily
+    // and faster than 1.28 M^2, which bounds the root; bisection then halves
+    // the bracket a fixed number of times, well past double precision.
+    double low = 1;
+    double high = 1 + std::sqrt((ratio + 1) / 1.28);
+    for (int step = 0; step < 200 && low < high; ++step) {
+        const double mid = (low + high) / 2;
+        (impactPressureRatio(mid) < ratio ? low : high) = mid;
+    }
+    return (low + high) / 2;
+}
+
+void Convert_MachAS(PageSheet& page, double x, int& inputRow) {
+    if (inputRow != Sat && inputRow != Tat && x < 0) {
+        page.beep();
+        return;
+    }
+    const PageSheet::Snapshot before = page.snapshot();
+    for (int row : {Mach, Cas, Eas, Tas}) {
+        page.clear(row);
+    }
+    const double kr = page.value(Recovery);
+    if (kr == 0 || kr > 1) {
+        page.setValue(Recovery, 1);
+    }
+    page.setValue(inputRow, x);
+    page[inputRow].computed = false;
+    // Only typed temperatures count as given: a derived one gives way to the
+    // speed or temperature the pilot types next.
+    for (int row : {Sat, Tat}) {
+        const bool typedSpeedOrTemperature = inputRow != Altitude && inputRow != Recovery;
+        if (row != inputRow && page[row].computed && typedSpeedOrTemperature) {
+            page.clear(row);
+            page[row].computed = false;
+        }
+    }
+    if (page.value(Mach) == 0 && page.value(Cas) == 0 && page.value(Eas) == 0 &&
+        page.value(Tas) == 0) {
+        return; // nothing more until a speed is given
+    }
+
+    const auto s = solve(page);
+    if (!s) {
+        page.restore(before);
+        page.beep();
+        return;
+    }
+    const double a0 = SeaLevelSoundSpeed;
+    const double delta = pressureRatio(page.value(Altitude));
+    const double cas = a0 * machFromImpactPressure(delta * impactPressureRatio(s->mach));
+    const double eas = a0 * s->mach * std::sqrt(delta);
+    const double tas = a0 * s->mach * std::sqrt(kelvin(s->sat) / 288);
+    if (!std::isfinite(cas) || !std::isfinite(eas) || !std::isfinite(tas)) {
+        page.restore(before);
+        page.beep();
+        return;
+    }
+    if (s->satComputed) {
+        page.setValue(Sat, s->sat);
+        page[Sat].computed = true;
+    }
+    if (s->tatComputed) {
+        page.setValue(Tat, s->tat);
+        page[Tat].computed = true;
+    }
+    page.setValue(Mach, s->mach);
+    page.setValue(Cas, cas);
+    page.setValue(Eas, eas);
+    page.setValue(Tas, tas);
+}
+
+} // namespace zel

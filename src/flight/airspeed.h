@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 zelFLIGHTAB developers
+#pragma once
+
+#include "app/pagesheet.h"
+
+namespace zel {
+
+/// Speed of sound at sea level in the standard atmosphere, knots.
+inline constexpr double SeaLevelSoundSpeed = 661.2454985;
+
+/// Static pressure ratio p/p0 at a pressure altitude in feet (troposphere to
+/// 36089 ft, then the isothermal stratosphere).
+double pressureRatio(double altitudeFeet);
+
+/// Impact pressure over static pressure at a Mach number: isentropic flow up
+/// to Mach 1, the Rayleigh pitot relation behind the normal shock above it.
+double impactPressureRatio(double mach);
+
+/// The Mach number whose impact pressure ratio is `ratio` (inverse of the above).
+double machFromImpactPressure(double ratio);
+
+/// Mach - AS page: altitude, Mach, SAT, CAS, TAT, EAS, recovery factor, TAS.
+void Convert_MachAS(PageSheet& page, double inputValue, int& inputRow);
+
+} // namespace zel

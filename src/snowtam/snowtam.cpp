@@ -1,0 +1,138 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 zelFLIGHTAB developers
+#include "snowtam/snowtam.h"
+
+#include "entry/numbertext.h"
+
+#include <array>
+
+namespace zel {
+namespace {
+
+struct Code {
+    std::string_view code;
+    std::string_view text;
+};
+
+constexpr std::array<Code, 11> Deposits{{{"0", "Clear and Dry"},
+                                         {"1", "Damp"},
+                                         {"2", "Wet / Water Patches"},
+                                         {"3", "Rime - Frost < 1mm"},
+                                         {"4", "Dry Snow"},
+                                         {"5", "Wet Snow"},
+                                         {"6", "Slush"},
+                                         {"7", "Ice"},
+                                         {"8", "Compacted Snow"},
+                                         {"9", "Frozen Ridges"},
+                                         {"/", "(not reported)"}}};
+
+constexpr std::array<Code, 5> Extents{{{"1", "< 10%"},
+                                       {"2", "11% - 25%"},
+                                       {"5", "26% - 50%"},
+                                       {"9", "51% - 100%"},
+                                       {"/", "(not reported)"}}};
+
+constexpr std::array<Code, 11> Depths{{{"00", "< 1 mm"},
+                                       {"91", "(not reported)"},
+                                       {"92", "100 mm"},
+                                       {"93", "150 mm"},
+                                       {"94", "200 mm"},
+                                       {"95", "250 mm"},
+                                       {"96", "300 mm"},
+                                       {"97", "350 mm"},
+                                       {"98", "400 mm"},
+                                       {"99", "RWY closed"},
+                                       {"//", "(not relevant)"}}};
+
+template <std::size_t N>
+const std::string_view* lookUp(const std::array<Code, N>& table, std::string_view code) {
+    for (const Code& entry : table) {
+        if (entry.code == code) {
+            return &entry.text;
+        }
+    }
+    return nullptr;
+}
+
+/// Braking action (row 8) and friction coefficient or its range (row 7).
+struct Braking {
+    std::string action;
+    std::string coefficient;
+};
+
+Braking braking(double bb, const Symbols& symbols) {
+    // Measured coefficients 0.01 to 0.90 are sent as 01..90; 91..95 are the
+    // estimated braking actions; 99 an unreliable measurement.
+    const std::string measured = formatNumber(bb / 100, "0.00", symbols);
+    struct Range {
+        double low, high;
+        std::string_view action;
+    };
+    static constexpr std::array<Range, 5> Measured{{{1, 25, "Poor"},
+                                                    {26, 29, "Medium-Poor"},
+                                                    {30, 35, "Medium"},
+                                                    {36, 39, "Medium-Good"},
+                                                    {40, 90, "Good"}}};
+    static constexpr std::array<Code, 5> Estimated{{{"Poor", "0 - 0.25"},
+                                                    {"Medium-Poor", "0.26 - 0.29"},
+                                                    {"Medium", "0.30 - 0.35"},
+                                                    {"Medium-Good", "0.36 - 0.39"},
+                                                    {"Good", "0.40 - 1.00"}}};
+    if (bb == 0) {
+        return {"(not reported)", ""};
+    }
+    for (const Range& range : Measured) {
+        if (bb >= range.low && bb <= range.high) {
+            return {std::string(range.action), measured};
+        }
+    }
+    if (bb >= 91 && bb <= 95 && bb == static_cast<int>(bb)) {
+        const Code& estimate = Estimated[static_cast<std::size_t>(bb) - 91];
+        return {std::string(estimate.code), std::string(estimate.text)};
+    }
+    if (bb == 99) {
+        return {"(not reported)", "(unreliable)"};
+    }
+    return {};
+}
+
+} // namespace
+
+void Convert_Snowtam(PageSheet& page, std::string_view group) {
+    page.reset();
+    if (charCount(group) != 8) {
+        page.warn("Snowtam must be 8 digits...");
+        return;
+    }
+    const Symbols& symbols = page.symbols();
+
+    const double runway = CGetal(group.substr(0, 2), symbols);
+    if (runway == 88) {
+        page[1].caption = "All RWY";
+    } else if (runway == 99) {
+        page[1].caption = "Previous Report";
+    } else if (runway < 50) {
+        page[1].caption = formatNumber(runway, "00", symbols);
+    } else {
+        // Runway numbers above 50 are the right-hand runway of a parallel pair.
+        page[1].caption = formatNumber(runway - 50, "00", symbols) + "R";
+    }
+    if (const auto* deposit = lookUp(Deposits, group.substr(2, 1))) {
+        page[2].caption = std::string(*deposit);
+    }
+    const auto* extent = lookUp(Extents, group.substr(3, 1));
+    page[4].caption = extent ? std::string(*extent) : "(invalid entry)";
+    const std::string_view depth = group.substr(4, 2);
+    const auto* depthText = lookUp(Depths, depth);
+    page[6].caption = depthText ? std::string(*depthText) : std::string(depth) + " mm";
+
+    Braking b = braking(CGetal(group.substr(6, 2), symbols), symbols);
+    page[7].caption = std::move(b.coefficient);
+    page[8].caption = std::move(b.action);
+
+    for (int row = 1; row <= PageSheet::Rows; ++row) {
+        page[row].fontSize = charCount(page[row].caption) >= 14 ? 9 : 12;
+    }
+}
+
+} // namespace zel

@@ -1,0 +1,20 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
+# Runs one console script and compares what it printed, and its exit status,
+# with NAME.expected. A line "#args: ..." in the script gives the options.
+get_filename_component(dir ${SCRIPT} DIRECTORY)
+get_filename_component(name ${SCRIPT} NAME_WE)
+file(STRINGS ${SCRIPT} arg_lines REGEX "^#args:")
+set(args "")
+if(arg_lines)
+    list(GET arg_lines 0 arg_line)
+    string(REGEX REPLACE "^#args: *" "" arg_line "${arg_line}")
+    separate_arguments(args UNIX_COMMAND "${arg_line}")
+endif()
+execute_process(COMMAND ${PROGRAM} --console ${SCRIPT} ${args}
+    OUTPUT_VARIABLE out ERROR_VARIABLE err RESULT_VARIABLE status)
+set(actual "${out}${err}exit ${status}\n")
+file(READ ${dir}/${name}.expected expected)
+if(NOT actual STREQUAL expected)
+    file(WRITE ${CMAKE_CURRENT_BINARY_DIR}/${name}.actual "${actual}")
+    message(FATAL_ERROR "console script ${name} printed:\n${actual}\nexpected:\n${expected}")
+endif()
