@@ -1,0 +1,64 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 zelFLIGHTAB developers
+// One whole row click (LabValue_Click through DisplayTags) on each factor page,
+// and one keystroke (Form_KeyPress through DisplayValue).
+#include "app/menu.h"
+#include "app/pages.h"
+
+#include <benchmark/benchmark.h>
+
+namespace {
+
+class Silent : public zel::Interaction, public zel::Regional {
+public:
+    void beep() override {}
+    void message(zel::MessageIcon, std::string_view, std::string_view) override {}
+    bool question(std::string_view, std::string_view) override { return false; }
+    std::optional<std::string> input(std::string_view, std::string_view) override { return {}; }
+    void setBusy(bool) override {}
+    void quit() override {}
+    zel::Symbols symbols() override { return {".", ","}; }
+};
+
+void RowClick(benchmark::State& state) {
+    Silent platform;
+    zel::Platform p{platform, platform};
+    zel::Menu menu(p);
+    menu.Form_Activate();
+    menu.LabMenu_Click(static_cast<int>(state.range(0)));
+    int row = 1;
+    for (auto _ : state) {
+        // Type 75 once (untimed), then time the click that converts it.
+        state.PauseTiming();
+        menu.Form_KeyPress('7');
+        menu.Form_KeyPress('5');
+        state.ResumeTiming();
+        menu.LabValue_Click(row);
+        row = row % 8 + 1;
+    }
+    state.SetLabel(std::string(zel::pageInfo(static_cast<int>(state.range(0))).name));
+}
+BENCHMARK(RowClick)->Arg(1)->Arg(2)->Arg(3)->Arg(5)->Arg(8)->Arg(9)->Unit(benchmark::kNanosecond);
+
+void KeyPress(benchmark::State& state) {
+    Silent platform;
+    zel::Platform p{platform, platform};
+    zel::Menu menu(p);
+    menu.Form_Activate();
+    menu.LabMenu_Click(1);
+    int typed = 0;
+    for (auto _ : state) {
+        menu.Form_KeyPress('7');
+        if (++typed == 12) {
+            state.PauseTiming();
+            menu.LabC_Click();
+            typed = 0;
+            state.ResumeTiming();
+        }
+    }
+}
+BENCHMARK(KeyPress)->Unit(benchmark::kNanosecond);
+
+} // namespace
+
+BENCHMARK_MAIN();

@@ -1,0 +1,88 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 zelFLIGHTAB developers
+#pragma once
+
+#include "app/menu.h"
+#include "app/platform.h"
+
+#include <deque>
+#include <string>
+#include <vector>
+
+namespace zel::test {
+
+/// Records what the user would see; answers questions and input boxes from queues.
+class FakeInteraction : public Interaction {
+public:
+    std::vector<std::string> events;
+    std::deque<bool> answers;
+    std::deque<std::optional<std::string>> inputs;
+
+    void beep() override { events.emplace_back("beep"); }
+    void message(MessageIcon icon, std::string_view title, std::string_view text) override {
+        static constexpr const char* Icons[] = {"information", "exclamation", "critical"};
+        events.push_back(std::string(Icons[static_cast<int>(icon)]) + " " + std::string(title) +
+                         ": " + std::string(text));
+    }
+    bool question(std::string_view, std::string_view text) override {
+        events.push_back("question " + std::string(text));
+        const bool yes = !answers.empty() && answers.front();
+        if (!answers.empty()) {
+            answers.pop_front();
+        }
+        return yes;
+    }
+    std::optional<std::string> input(std::string_view, std::string_view prompt) override {
+        events.push_back("input " + std::string(prompt));
+        if (inputs.empty()) {
+            return std::nullopt;
+        }
+        auto answer = inputs.front();
+        inputs.pop_front();
+        return answer;
+    }
+    void setBusy(bool busy) override { events.emplace_back(busy ? "busy on" : "busy off"); }
+    void quit() override { events.emplace_back("quit"); }
+};
+
+class FakeRegional : public Regional {
+public:
+    Symbols value;
+    Symbols symbols() override { return value; }
+};
+
+inline const Symbols Dot{".", ","};
+inline const Symbols Comma{",", "."};
+
+/// A started window with fake platform pieces, driven as a user drives it.
+struct Calculator {
+    FakeInteraction ui;
+    FakeRegional regional;
+    Platform platform{ui, regional};
+    Menu menu{platform};
+
+    explicit Calculator(const Symbols& symbols = Dot, int page = 0) {
+        regional.value = symbols;
+        menu.Form_Load();
+        menu.Form_Activate();
+        if (page != 0) {
+            menu.LabMenu_Click(page);
+        }
+    }
+    void type(std::string_view text) {
+        for (char c : text) {
+            menu.Form_KeyPress(static_cast<unsigned char>(c));
+        }
+    }
+    /// Types a value and clicks its row.
+    void enter(int row, std::string_view text) {
+        type(text);
+        menu.LabValue_Click(row);
+    }
+    const std::string& tag(int row) const { return menu.row(row).tag; }
+    const std::string& caption(int row) const { return menu.row(row).caption; }
+    double value(int row) const { return textValue(tag(row), menu.symbols()); }
+    std::string lastEvent() const { return ui.events.empty() ? "" : ui.events.back(); }
+};
+
+} // namespace zel::test

@@ -1,0 +1,143 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 zelFLIGHTAB developers
+#include "app/pages.h"
+#include "fakeplatform.h"
+
+#include <gtest/gtest.h>
+
+namespace zel::test {
+namespace {
+
+TEST(Window, StartsOnTheMenuFace) {
+    Calculator calc;
+    EXPECT_EQ(calc.menu.face(), Face::Menu);
+    EXPECT_EQ(calc.menu.title(), "zelFLIGHTAB");
+    EXPECT_EQ(calc.menu.display(), "0.");
+    EXPECT_EQ(calc.menu.digitsCaption(), "0.00");
+    EXPECT_TRUE(calc.ui.events.empty());
+
+    Calculator comma(Comma);
+    EXPECT_EQ(comma.menu.display(), "0,");
+    EXPECT_EQ(comma.menu.digitsCaption(), "0,00");
+}
+
+TEST(Window, WarnsOnEveryActivationWhileTheSymbolsClash) {
+    Calculator calc(Symbols{",", ","});
+    const std::string expected =
+        "information Format Numbers: The 'decimal symbol' and the 'digit grouping symbol'  on "
+        "this computer are set-up the same.\r\r(e.g. standard atmosphere is displayed as "
+        "1,013,25)\r\rThis causes calculations";
+    ASSERT_EQ(calc.ui.events.size(), 1u);
+    EXPECT_EQ(calc.ui.events[0].substr(0, expected.size()), expected);
+    calc.menu.Form_Activate();
+    EXPECT_EQ(calc.ui.events.size(), 2u);
+    calc.regional.value = Comma;
+    calc.menu.Form_Activate();
+    EXPECT_EQ(calc.ui.events.size(), 2u);
+}
+
+TEST(Window, FunctionKeysOpenPagesFromTheMenuFace) {
+    const std::pair<int, int> keys[] = {{1, 1}, {4, 4}, {10, 10}, {11, 14}, {12, 17}};
+    for (const auto& [f, page] : keys) {
+        Calculator calc;
+        calc.menu.Form_KeyUp(key::F1 + f - 1);
+        EXPECT_EQ(calc.menu.currentPage(), page) << "F" << f;
+        EXPECT_EQ(calc.menu.face(), Face::Page);
+    }
+    EXPECT_EQ(functionKeyCaption(18), "F12"); // drawn on Currency, opens Wind Comp
+    EXPECT_EQ(functionKeyCaption(17), "");
+}
+
+TEST(Window, EscapeEndsOnTheMenuAndClearsOnAPage) {
+    Calculator calc(Dot, 1);
+    calc.enter(1, "5");
+    calc.menu.Form_KeyUp(key::Escape);
+    EXPECT_EQ(calc.tag(1), "0");
+    EXPECT_TRUE(calc.ui.events.empty());
+    calc.menu.LabelMenu_Click();
+    calc.menu.Form_KeyUp(key::Escape);
+    EXPECT_EQ(calc.lastEvent(), "quit");
+}
+
+TEST(Window, PagesSetTheirPanelsAndMemoryKeys) {
+    Calculator calc(Dot, page::Snowtam);
+    EXPECT_FALSE(calc.menu.panelsVisible());
+    EXPECT_EQ(calc.menu.display(), "");
+    calc.menu.LabMenu_Click(page::Currency);
+    EXPECT_TRUE(calc.menu.panelsVisible());
+    EXPECT_EQ(calc.menu.memoryCaption(0), "Rates");
+    EXPECT_EQ(calc.menu.memoryCaption(1), "Set");
+    EXPECT_EQ(calc.menu.memoryCaption(2), "i");
+    calc.menu.LabMenu_Click(page::Weight);
+    EXPECT_EQ(calc.menu.memoryCaption(0), "MRC");
+}
+
+TEST(Window, ReopeningAPageBlanksItAndBackToMenuKeepsIt) {
+    Calculator calc(Dot, 1);
+    calc.enter(2, "165");
+    calc.menu.LabelMenu_Click();
+    EXPECT_EQ(calc.caption(1), "74.83");
+    calc.menu.LabMenu_Click(1);
+    for (int row = 1; row <= 8; ++row) {
+        EXPECT_EQ(calc.tag(row), "0");
+        EXPECT_EQ(calc.caption(row), "");
+        EXPECT_FALSE(calc.menu.row(row).input);
+    }
+}
+
+TEST(Window, TypingIsIgnoredOnTheMenuFace) {
+    Calculator calc;
+    calc.type("12");
+    EXPECT_EQ(calc.menu.scratchPad().inputValue(), 0);
+}
+
+TEST(InputRow, ClickTakesTheEntryOrSelectsTheRow) {
+    Calculator calc(Dot, 1);
+    calc.enter(1, "12");
+    EXPECT_TRUE(calc.menu.row(1).input);
+    EXPECT_EQ(calc.menu.display(), "0.");
+    // Typing what the row already holds only selects it.
+    calc.enter(1, "12");
+    EXPECT_EQ(calc.menu.scratchPad().inputText(), "12");
+    EXPECT_EQ(calc.menu.display(), "12.");
+    // A zero entry selects a row and loads its value.
+    calc.menu.LabC_Click();
+    calc.enter(1, "5");
+    calc.menu.LabValue_Click(2);
+    EXPECT_TRUE(calc.menu.row(2).input);
+    EXPECT_FALSE(calc.menu.row(1).input);
+    EXPECT_EQ(calc.menu.scratchPad().inputText(), "11.025");
+}
+
+TEST(InputRow, RowsWithoutAUnitDoNothing) {
+    Calculator calc(Dot, page::Angle);
+    calc.type("5+3");
+    calc.menu.LabValue_Click(7);
+    EXPECT_EQ(calc.menu.scratchPad().pendingOperator(), 1);
+    EXPECT_EQ(calc.tag(7), "0");
+}
+
+TEST(RowRendering, DigitsKeyCyclesAndRerendersEveryRow) {
+    Calculator calc(Dot, 1);
+    calc.enter(1, "1");
+    const std::pair<const char*, const char*> cycle[] = {
+        {"0....", "35.27396584"}, {"0", "35"}, {"0.00", "35.27"}};
+    for (const auto& [caption, ounces] : cycle) {
+        calc.menu.LabDEC_Click();
+        EXPECT_EQ(calc.menu.digitsCaption(), caption);
+        EXPECT_EQ(calc.caption(6), ounces) << caption;
+    }
+}
+
+TEST(RowRendering, TinyValuesRoundAndLongCaptionsAreSmall) {
+    Calculator calc(Dot, 1);
+    calc.enter(8, "1");
+    EXPECT_EQ(calc.caption(3), "0.00");   // a real 0.000001 still shows its rounding
+    calc.enter(1, "123456");
+    EXPECT_EQ(calc.caption(8), "123,456,000,000.00"); // 18 characters
+    EXPECT_EQ(calc.menu.row(8).fontSize, 9);
+    EXPECT_EQ(calc.menu.row(1).fontSize, 12);
+}
+
+} // namespace
+} // namespace zel::test
