@@ -10,7 +10,7 @@
 namespace {
 
 class Silent : public zel::Interaction, public zel::Regional {
-public:
+  public:
     void beep() override {}
     void message(zel::MessageIcon, std::string_view, std::string_view) override {}
     bool question(std::string_view, std::string_view) override { return false; }

@@ -132,10 +132,6 @@ void ConsoleInteraction::quit() {
     m_quit = true;
 }
 
-ConsoleSession::ConsoleSession(Platform& platform, ConsoleInteraction& interaction,
-                               std::ostream& out)
-    : m_menu(platform), m_interaction(interaction), m_out(out) {}
-
 void ConsoleSession::start() {
     m_menu.Form_Load();
     m_menu.Form_Activate();
@@ -300,7 +296,8 @@ int runConsole(int argc, char** argv) {
     QtRegional regional(options.locale, replacement);
     ConsoleInteraction interaction(std::cout);
     Platform platform{interaction, regional};
-    ConsoleSession session(platform, interaction, std::cout);
+    Menu menu(platform);
+    ConsoleSession session(menu, interaction, std::cout);
     session.start();
     std::string line;
     for (int number = 1; !session.finished() && std::getline(in, line); ++number) {

@@ -43,7 +43,8 @@ class ConsoleInteraction : public Interaction {
 /// Runs console commands against a Menu, one line at a time.
 class ConsoleSession {
   public:
-    ConsoleSession(Platform& platform, ConsoleInteraction& interaction, std::ostream& out);
+    ConsoleSession(Menu& menu, ConsoleInteraction& interaction, std::ostream& out)
+        : m_menu(menu), m_interaction(interaction), m_out(out) {}
 
     /// Start-up, as the window does it: Form_Load, then Form_Activate.
     void start();
@@ -56,7 +57,7 @@ class ConsoleSession {
     static void show(const Menu& menu, std::ostream& out);
 
   private:
-    Menu m_menu;
+    Menu& m_menu;
     ConsoleInteraction& m_interaction;
     std::ostream& m_out;
 };

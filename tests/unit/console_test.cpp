@@ -16,7 +16,8 @@ struct Session {
     ConsoleInteraction ui{out};
     FakeRegional regional;
     Platform platform{ui, regional};
-    ConsoleSession session{platform, ui, out};
+    Menu menu{platform};
+    ConsoleSession session{menu, ui, out};
     Session() { session.start(); }
 };
 
@@ -68,7 +69,8 @@ TEST(Console, StopsAtQuit) {
 }
 
 TEST(Options, ReadTheCommandLine) {
-    const Options o = parseOptions({"--console", "run.txt", "--locale", "de_DE", "--symbols", ",."});
+    const Options o =
+        parseOptions({"--console", "run.txt", "--locale", "de_DE", "--symbols", ",."});
     EXPECT_TRUE(o.console);
     EXPECT_EQ(o.file, "run.txt");
     EXPECT_EQ(o.locale, "de_DE");

@@ -13,7 +13,7 @@ namespace zel::test {
 
 /// Records what the user would see; answers questions and input boxes from queues.
 class FakeInteraction : public Interaction {
-public:
+  public:
     std::vector<std::string> events;
     std::deque<bool> answers;
     std::deque<std::optional<std::string>> inputs;
@@ -46,7 +46,7 @@ public:
 };
 
 class FakeRegional : public Regional {
-public:
+  public:
     Symbols value;
     Symbols symbols() override { return value; }
 };

@@ -112,7 +112,9 @@ TEST(Endurance, SolvesQuantityFlowAndTime) {
 
 TEST(FuelRange, SolvesRangeInTheOrderOfEntry) {
     const FuelCase cases[] = {
-        {"600 kg, 200 kg/hr, 120 kt", page::FuelRange, {{1, "600"}, {2, "200"}, {7, "120"}},
+        {"600 kg, 200 kg/hr, 120 kt",
+         page::FuelRange,
+         {{1, "600"}, {2, "200"}, {7, "120"}},
          {{8, "360"}}},
         {"ground speed first is cleared",
          page::FuelRange,

@@ -132,7 +132,7 @@ TEST(RowRendering, DigitsKeyCyclesAndRerendersEveryRow) {
 TEST(RowRendering, TinyValuesRoundAndLongCaptionsAreSmall) {
     Calculator calc(Dot, 1);
     calc.enter(8, "1");
-    EXPECT_EQ(calc.caption(3), "0.00");   // a real 0.000001 still shows its rounding
+    EXPECT_EQ(calc.caption(3), "0.00"); // a real 0.000001 still shows its rounding
     calc.enter(1, "123456");
     EXPECT_EQ(calc.caption(8), "123,456,000,000.00"); // 18 characters
     EXPECT_EQ(calc.menu.row(8).fontSize, 9);

@@ -86,8 +86,12 @@ TEST(FormatNumber, AppliesPatternsRegionally) {
 
 TEST(FormatNumber, GroupsWithMultiByteSymbols) {
     const Symbols swiss{".", "\xe2\x80\x99"}; // right single quotation mark
-    EXPECT_EQ(formatNumber(1234567.5, "#,#0.00", swiss), "1\xe2\x80\x99" "234\xe2\x80\x99" "567.50");
-    EXPECT_EQ(charCount("1\xe2\x80\x99" "234"), 5u);
+    EXPECT_EQ(formatNumber(1234567.5, "#,#0.00", swiss), "1\xe2\x80\x99"
+                                                         "234\xe2\x80\x99"
+                                                         "567.50");
+    EXPECT_EQ(charCount("1\xe2\x80\x99"
+                        "234"),
+              5u);
 }
 
 struct ReadCase {
@@ -137,7 +141,9 @@ TEST(GeneralText, RoundTripsThroughReading) {
     }
 }
 
-TEST(FilterNumeric, RemovesBothSeparators) { EXPECT_EQ(FilterNumeric("1,234.56"), "123456"); }
+TEST(FilterNumeric, RemovesBothSeparators) {
+    EXPECT_EQ(FilterNumeric("1,234.56"), "123456");
+}
 
 } // namespace
 } // namespace zel::test

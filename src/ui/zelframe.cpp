@@ -1,0 +1,137 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 zelFLIGHTAB developers
+#include "ui/zelframe.h"
+
+#include <QFontMetricsF>
+#include <QLinearGradient>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QPainterPath>
+
+namespace zel {
+
+ZelFrame::ZelFrame(const Style& style, QWidget* parent) : QWidget(parent), m_style(style) {
+    setAttribute(Qt::WA_TranslucentBackground);
+    setFocusPolicy(Qt::NoFocus);
+}
+
+void ZelFrame::setCaption(const QString& caption) {
+    if (caption != m_caption) {
+        m_caption = caption;
+        update();
+    }
+}
+
+void ZelFrame::setTextColor(const QColor& color) {
+    if (color != m_style.text) {
+        m_style.text = color;
+        update();
+    }
+}
+
+void ZelFrame::setPointSize(qreal points) {
+    if (points != m_pointSize) {
+        m_pointSize = points;
+        update();
+    }
+}
+
+void ZelFrame::setAlignment(Qt::Alignment alignment) {
+    m_alignment = alignment;
+    update();
+}
+
+void ZelFrame::setBold(bool bold) {
+    m_bold = bold;
+    update();
+}
+
+void ZelFrame::setIcon(const QPixmap& icon) {
+    m_icon = icon;
+    update();
+}
+
+void ZelFrame::setCornerCaption(const QString& caption) {
+    m_corner = caption;
+    update();
+}
+
+void ZelFrame::setHighlighted(bool on) {
+    m_highlighted = on;
+    update();
+}
+
+void ZelFrame::paintEvent(QPaintEvent*) {
+    QPainter p(this);
+    p.setRenderHint(QPainter::Antialiasing);
+    const QRectF area = QRectF(rect()).adjusted(0.5, 0.5, -1.5, -1.5);
+    const qreal r = m_style.radius;
+    if (m_style.shadow) {
+        QPainterPath shadow;
+        shadow.addRoundedRect(area.translated(1, 1.2), r, r);
+        p.fillPath(shadow, QColor(0, 0, 0, 55));
+    }
+    QPainterPath face;
+    face.addRoundedRect(area, r, r);
+    QLinearGradient fill(area.topLeft(), area.bottomLeft());
+    QColor top = m_style.top;
+    QColor bottom = m_style.bottom;
+    if (m_pressed || m_highlighted) {
+        std::swap(top, bottom);
+        top = top.lighter(m_highlighted ? 160 : 110);
+    }
+    fill.setColorAt(0, top);
+    fill.setColorAt(1, bottom);
+    p.fillPath(face, fill);
+    if (m_style.border.isValid()) {
+        p.setPen(QPen(m_style.border, 1));
+        p.drawPath(face);
+    }
+
+    QRectF text = area.adjusted(6, 2, -6, -2);
+    if (!m_icon.isNull()) {
+        const qreal side = m_icon.width() / m_icon.devicePixelRatio();
+        const QPointF at(area.center().x() - side / 2, area.top() + area.height() * 0.16);
+        p.drawPixmap(at, m_icon);
+        text.setTop(at.y() + side + 1);
+    }
+    QFont font = this->font();
+    font.setPointSizeF(m_pointSize);
+    font.setBold(m_bold);
+    // A caption that does not fit is drawn smaller rather than cut off.
+    while (font.pointSizeF() > 6 &&
+           QFontMetricsF(font).horizontalAdvance(m_caption) > text.width()) {
+        font.setPointSizeF(font.pointSizeF() - 0.5);
+    }
+    p.setFont(font);
+    p.setPen(m_style.text);
+    const Qt::Alignment vertical = m_icon.isNull() ? Qt::AlignVCenter : Qt::AlignTop;
+    p.drawText(text, static_cast<int>(m_alignment | vertical), m_caption);
+    if (!m_corner.isEmpty()) {
+        QFont small = this->font();
+        small.setPointSizeF(6.5);
+        p.setFont(small);
+        p.setPen(QColor(255, 190, 0, 200));
+        p.drawText(area.adjusted(3, 2, -5, 0), Qt::AlignTop | Qt::AlignRight, m_corner);
+    }
+}
+
+void ZelFrame::mousePressEvent(QMouseEvent* event) {
+    if (event->button() == Qt::LeftButton) {
+        m_pressed = true;
+        update();
+    }
+}
+
+void ZelFrame::mouseReleaseEvent(QMouseEvent* event) {
+    if (event->button() != Qt::LeftButton || !m_pressed) {
+        return;
+    }
+    m_pressed = false;
+    update();
+    if (rect().contains(event->position().toPoint())) {
+        emit clicked(event->position().toPoint());
+    }
+}
+
+} // namespace zel

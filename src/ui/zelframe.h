@@ -1,0 +1,63 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 zelFLIGHTAB developers
+#pragma once
+
+#include <QColor>
+#include <QPixmap>
+#include <QWidget>
+
+namespace zel {
+
+/// A rounded, gradient-filled panel or key face with an optional caption,
+/// icon and corner caption: every panel and key of the window is one.
+class ZelFrame : public QWidget {
+    Q_OBJECT
+  public:
+    struct Style {
+        QColor top;
+        QColor bottom;
+        QColor border;
+        QColor text;
+        qreal radius = 6;
+        bool shadow = true;
+    };
+
+    ZelFrame(const Style& style, QWidget* parent = nullptr);
+
+    void setCaption(const QString& caption);
+    QString caption() const { return m_caption; }
+    void setTextColor(const QColor& color);
+    QColor textColor() const { return m_style.text; }
+    void setPointSize(qreal points);
+    qreal pointSize() const { return m_pointSize; }
+    void setAlignment(Qt::Alignment alignment);
+    void setBold(bool bold);
+    void setIcon(const QPixmap& icon);
+    /// A small caption drawn in the top right corner (the F-key of a page button).
+    void setCornerCaption(const QString& caption);
+    QString cornerCaption() const { return m_corner; }
+    /// Draws the face lit for a moment, as a flash for the bell.
+    void setHighlighted(bool on);
+
+  signals:
+    /// A click, with where it landed (the divide key has two faces).
+    void clicked(QPoint position);
+
+  protected:
+    void paintEvent(QPaintEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+
+  private:
+    Style m_style;
+    QString m_caption;
+    QString m_corner;
+    QPixmap m_icon;
+    qreal m_pointSize = 9;
+    bool m_bold = false;
+    bool m_pressed = false;
+    bool m_highlighted = false;
+    Qt::Alignment m_alignment = Qt::AlignCenter;
+};
+
+} // namespace zel
