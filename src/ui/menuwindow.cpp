@@ -5,11 +5,14 @@
 #include "app/pages.h"
 #include "ui/qtinteraction.h"
 
+#include <QApplication>
 #include <QEvent>
 #include <QKeyEvent>
 #include <QPainter>
 #include <QSvgRenderer>
 #include <QTimer>
+
+#include <utility>
 
 // The icons are compiled into this library; a static library must load them itself.
 static void loadIcons() {
@@ -292,9 +295,19 @@ void MenuWindow::flash() {
 }
 
 bool MenuWindow::event(QEvent* e) {
-    if (e->type() == QEvent::WindowActivate) {
+    if (e->type() == QEvent::Paint && qEnvironmentVariableIsSet("ZEL_EXIT_AFTER_FIRST_FRAME")) {
+        // Start-up measurement: the first frame is on screen, so stop here.
+        QTimer::singleShot(0, qApp, &QApplication::quit);
+    }
+    if (e->type() == QEvent::Show && !m_shown) {
+        // The first showing activates the window even where no window manager
+        // sends an activation; the activation that follows it is the same one.
+        m_shown = true;
+        m_skipActivation = true;
+        act([this] { m_menu.Form_Activate(); });
+    } else if (e->type() == QEvent::WindowActivate) {
         const bool ownDialog = m_interaction && m_interaction->takeDialogClosed();
-        if (!ownDialog) {
+        if (!ownDialog && !std::exchange(m_skipActivation, false)) {
             act([this] { m_menu.Form_Activate(); });
         }
     } else if (e->type() == QEvent::Close) {

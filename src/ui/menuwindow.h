@@ -76,6 +76,8 @@ class MenuWindow : public QWidget {
     std::array<ZelFrame*, 4> m_operatorKeys{}; // + - x; the divide key is one face for two
     std::array<ZelFrame*, 3> m_memoryKeys{};
     int m_shownIconPage = -1;
+    bool m_shown = false;
+    bool m_skipActivation = false;
 };
 
 /// The icon of a page (0: the application), drawn in one colour at a size.
