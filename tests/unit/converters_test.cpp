@@ -18,6 +18,14 @@ struct Conversion {
     const char* tag;
 };
 
+template <std::size_t N> void checkAll(const Conversion (&cases)[N]) {
+    for (const auto& c : cases) {
+        Calculator calc(Dot, c.page);
+        calc.enter(c.inputRow, c.input);
+        EXPECT_EQ(calc.tag(c.row), c.tag) << c.name;
+    }
+}
+
 TEST(FactorPages, ConvertThroughTheBaseUnit) {
     const Conversion cases[] = {
         {"1 kg is 2.205 lbs", page::Weight, 1, "1", 2, "2.205"},
@@ -32,11 +40,7 @@ TEST(FactorPages, ConvertThroughTheBaseUnit) {
         {"1 hectare is 10000 m2", page::Surface, 4, "1", 1, "10000"},
         {"the input row carries the same rounding", page::Fluid, 3, "1", 3, "1"},
     };
-    for (const auto& c : cases) {
-        Calculator calc(Dot, c.page);
-        calc.enter(c.inputRow, c.input);
-        EXPECT_EQ(calc.tag(c.row), c.tag) << c.name;
-    }
+    checkAll(cases);
 }
 
 TEST(FactorPages, RefuseNegativeValues) {
@@ -65,11 +69,7 @@ TEST(Temperature, ConvertsThroughCelsius) {
         {"491.67 R is 32 F", page::Temperature, 4, "491.67", 2, "32"},
         {"below absolute zero in C", page::Temperature, 1, "-300", 3, "-26.85"},
     };
-    for (const auto& c : cases) {
-        Calculator calc(Dot, c.page);
-        calc.enter(c.inputRow, c.input);
-        EXPECT_EQ(calc.tag(c.row), c.tag) << c.name;
-    }
+    checkAll(cases);
 }
 
 TEST(Temperature, AbsoluteScalesRefuseNegatives) {
@@ -91,11 +91,7 @@ TEST(Angle, UsesTheSinglePrecisionPi) {
         {"45 degrees is a 100 % slope", page::Angle, 1, "45", 6, "100.000004371139"},
         {"negative angles convert", page::Angle, 3, "-30", 1, "-0.5"},
     };
-    for (const auto& c : cases) {
-        Calculator calc(Dot, c.page);
-        calc.enter(c.inputRow, c.input);
-        EXPECT_EQ(calc.tag(c.row), c.tag) << c.name;
-    }
+    checkAll(cases);
     Calculator calc(Dot, page::Angle);
     calc.enter(6, "100");
     EXPECT_NEAR(calc.value(1), 45, 1e-5);
