@@ -84,7 +84,6 @@ class Menu {
     void ResetPage();
     void SetButtonColor(int index);
     void DisplayTags();
-    void DisplayValue() { m_pad.displayValue(); }
     void ResetScratchPad() { m_pad.reset(m_currentPage == 14); }
     void runConverter(int& inputRow);
     void pressOperator(int index);
