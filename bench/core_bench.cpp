@@ -9,7 +9,11 @@
 
 namespace {
 
-class Silent : public zel::Interaction, public zel::Regional {
+class Silent : public zel::Interaction,
+               public zel::Regional,
+               public zel::Storage,
+               public zel::Network,
+               public zel::Clock {
   public:
     void beep() override {}
     void message(zel::MessageIcon, std::string_view, std::string_view) override {}
@@ -18,11 +22,20 @@ class Silent : public zel::Interaction, public zel::Regional {
     void setBusy(bool) override {}
     void quit() override {}
     zel::Symbols symbols() override { return {".", ","}; }
+    std::string programFolder() override { return "/nowhere"; }
+    zel::FileRead read(const std::string&) override { return {}; }
+    bool write(const std::string&, std::string_view) override { return false; }
+    void remove(const std::string&) override {}
+    bool connected(std::string&) override { return false; }
+    zel::HttpReply get(const std::string&) override { return {}; }
+    std::chrono::year_month_day today() override {
+        return std::chrono::year{2026} / std::chrono::November / 22;
+    }
 };
 
 void RowClick(benchmark::State& state) {
     Silent platform;
-    zel::Platform p{platform, platform};
+    zel::Platform p{platform, platform, platform, platform, platform};
     zel::Menu menu(p);
     menu.Form_Activate();
     menu.LabMenu_Click(static_cast<int>(state.range(0)));
@@ -42,7 +55,7 @@ BENCHMARK(RowClick)->Arg(1)->Arg(2)->Arg(3)->Arg(5)->Arg(8)->Arg(9)->Unit(benchm
 
 void KeyPress(benchmark::State& state) {
     Silent platform;
-    zel::Platform p{platform, platform};
+    zel::Platform p{platform, platform, platform, platform, platform};
     zel::Menu menu(p);
     menu.Form_Activate();
     menu.LabMenu_Click(1);

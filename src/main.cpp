@@ -2,7 +2,7 @@
 // SPDX-FileCopyrightText: 2026 zelFLIGHTAB developers
 #include "app/options.h"
 #include "console/console.h"
-#include "platform/qtregional.h"
+#include "platform/sharedplatform.h"
 #include "ui/menuwindow.h"
 #include "ui/qtinteraction.h"
 
@@ -16,14 +16,14 @@ namespace {
 
 /// `--script FILE --screenshot OUT.png`: console commands against the real
 /// window, then a picture of it. Dialogs are printed as the console prints them.
-int runScript(zel::Regional& regional, const zel::Options& options) {
+int runScript(zel::SharedPlatform& shared, const zel::Options& options) {
     std::ifstream file(*options.script);
     if (!file) {
         std::cerr << "error: cannot read " << *options.script << '\n';
         return 2;
     }
     zel::ConsoleInteraction interaction(std::cout);
-    zel::Platform platform{interaction, regional};
+    zel::Platform platform = shared.with(interaction);
     zel::Menu menu(platform);
     zel::MenuWindow window(menu);
     zel::ConsoleSession session(menu, interaction, std::cout);
@@ -64,12 +64,15 @@ int main(int argc, char** argv) {
             << "error: --symbols takes two characters, the decimal then the grouping symbol\n";
         return 2;
     }
-    zel::QtRegional regional(options.locale, replacement);
+    zel::SharedPlatform shared{zel::QtRegional(options.locale, replacement),
+                               zel::QtStorage(zel::QtStorage::locateProgramFolder(options.folder)),
+                               {},
+                               {}};
     if (options.script) {
-        return runScript(regional, options);
+        return runScript(shared, options);
     }
     zel::QtInteraction interaction;
-    zel::Platform platform{interaction, regional};
+    zel::Platform platform = shared.with(interaction);
     zel::Menu menu(platform);
     zel::MenuWindow window(menu, &interaction);
     interaction.setParent(&window);

@@ -7,7 +7,7 @@
 namespace zel {
 
 void Menu::Form_KeyPress(char32_t keyAscii) {
-    if (m_face != Face::Page) {
+    if (busy() || m_face != Face::Page) {
         return; // on the menu face only released keys act
     }
     if (m_currentPage == page::Snowtam) {
@@ -71,6 +71,9 @@ void Menu::keyPressNumber(char32_t keyAscii) {
 }
 
 void Menu::Form_KeyUp(int keyCode) {
+    if (busy()) {
+        return;
+    }
     if (m_face == Face::Menu) {
         if (keyCode == key::Escape) {
             m_platform.ui.quit();

@@ -51,7 +51,7 @@ void Menu::Form_QueryUnload() {
 }
 
 void Menu::LabMenu_Click(int index) {
-    if (index < 1 || index > PageCount) {
+    if (busy() || index < 1 || index > PageCount) {
         return;
     }
     m_currentPage = index;
@@ -70,7 +70,9 @@ void Menu::LabMenu_Click(int index) {
 }
 
 void Menu::LabelMenu_Click() {
-    m_face = Face::Menu;
+    if (!busy()) {
+        m_face = Face::Menu;
+    }
 }
 
 void Menu::LoadUnits() {
@@ -79,6 +81,13 @@ void Menu::LoadUnits() {
         const auto i = static_cast<std::size_t>(row - 1);
         m_sheet.setFactor(row, info.factors[i]);
         m_sheet[row].unit = std::string(info.units[i]);
+    }
+    if (m_currentPage == page::Currency) {
+        m_sheet[PageSheet::Rows].unit = m_currency.ownCurrencyCaption();
+        const std::array<float, PageSheet::Rows> rates = m_currency.LoadRates(m_symbols);
+        for (int row = 1; row <= PageSheet::Rows; ++row) {
+            m_sheet.setFactor(row, rates[static_cast<std::size_t>(row - 1)]);
+        }
     }
 }
 
@@ -93,7 +102,7 @@ void Menu::SetButtonColor(int index) {
 }
 
 void Menu::LabValue_Click(int index) {
-    if (m_face != Face::Page || index < 1 || index > PageSheet::Rows) {
+    if (busy() || m_face != Face::Page || index < 1 || index > PageSheet::Rows) {
         return;
     }
     if (m_currentPage == page::Snowtam) {
@@ -175,7 +184,8 @@ void Menu::report(const ArithmeticFault& fault) {
 }
 
 void Menu::LabOP_Click(int index) {
-    if (m_face == Face::Page && m_panelsVisible && index >= 1 && index <= ScratchPad::Operators) {
+    if (!busy() && m_face == Face::Page && m_panelsVisible && index >= 1 &&
+        index <= ScratchPad::Operators) {
         pressOperator(index);
     }
 }
@@ -195,7 +205,7 @@ const std::string& Menu::operatorCaption(int key) const {
 }
 
 void Menu::LabC_Click() {
-    if (m_face != Face::Page) {
+    if (busy() || m_face != Face::Page) {
         return;
     }
     ResetScratchPad();
@@ -203,16 +213,21 @@ void Menu::LabC_Click() {
 }
 
 void Menu::LabMEM_Click(int index) {
-    if (m_face != Face::Page || !m_panelsVisible || index < 0 || index > 2) {
+    if (busy() || m_face != Face::Page || !m_panelsVisible || index < 0 || index > 2) {
         return;
     }
     if (m_currentPage == page::Currency) {
-        if (index == 2) {
-            m_platform.ui.message(MessageIcon::Information, m_sheet.title(),
-                                  "Currency Rates are retrieved from Google Finance.\r\rPress the "
-                                  "Rates button to download the latest rates...");
-        } else {
+        if (index == 0) {
             LabC_Click();
+            m_currency.DownloadRates();
+        } else if (index == 1) {
+            LabC_Click();
+            if (m_currency.SetMyCurrency()) {
+                LoadUnits();
+            }
+        } else {
+            m_platform.ui.message(MessageIcon::Information, m_sheet.title(),
+                                  m_currency.sourceNote());
         }
         return;
     }
@@ -234,7 +249,7 @@ std::string Menu::digitsCaptionFor(const std::string& tag) const {
 }
 
 void Menu::LabDEC_Click() {
-    if (m_face != Face::Page || !m_panelsVisible) {
+    if (busy() || m_face != Face::Page || !m_panelsVisible) {
         return;
     }
     // Two decimals -> all digits -> whole numbers -> two decimals.

@@ -23,6 +23,7 @@
 
 #include "app/pagesheet.h"
 #include "app/platform.h"
+#include "currency/modcurrency.h"
 #include "entry/fault.h"
 #include "entry/scratchpad.h"
 
@@ -78,6 +79,8 @@ class Menu {
     const RowCell& row(int row) const { return m_sheet[row]; }
     const Symbols& symbols() const { return m_symbols; }
     const ScratchPad& scratchPad() const { return m_pad; }
+    /// While rates are downloading the window repaints but takes no action.
+    bool busy() const { return m_currency.downloading(); }
 
   private:
     void LoadUnits();
@@ -93,6 +96,7 @@ class Menu {
     void keyPressNumber(char32_t keyAscii);
 
     Platform& m_platform;
+    ModCurrency m_currency{m_platform};
     Symbols m_symbols;
     ScratchPad m_pad{m_symbols};
     PageSheet m_sheet{m_platform.ui, m_symbols};

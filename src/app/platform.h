@@ -4,6 +4,7 @@
 
 #include "entry/numbertext.h"
 
+#include <chrono>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -35,11 +36,62 @@ class Regional {
     virtual Symbols symbols() = 0;
 };
 
+/// A file as read: its bytes, or why there are none. A file that exists but
+/// cannot be read is not a missing one: nothing may be written over it.
+struct FileRead {
+    enum class Status { Ok, Missing, Unreadable } status = Status::Missing;
+    std::string bytes;
+};
+
+/// The program folder and the files below it: the settings file, the kept pages.
+class Storage {
+  public:
+    virtual ~Storage() = default;
+    /// The folder whose Tech subfolder holds the settings file.
+    virtual std::string programFolder() = 0;
+    virtual FileRead read(const std::string& path) = 0;
+    /// Replaces the file as a whole or not at all (a temporary file, then a
+    /// rename), so that a crash or a full disk never leaves half a file.
+    virtual bool write(const std::string& path, std::string_view bytes) = 0;
+    /// Deletes the file if it is there.
+    virtual void remove(const std::string& path) = 0;
+};
+
+/// The outcome of one HTTP transfer.
+struct HttpReply {
+    bool ok = false;
+    int error = 0;         ///< the transfer's error number when it failed
+    std::string errorText; ///< and its description
+    std::string body;      ///< never empty when ok
+};
+
+class Network {
+  public:
+    virtual ~Network() = default;
+    /// Whether the machine can reach the Internet (true when nobody can tell),
+    /// and a word for the kind of connection.
+    virtual bool connected(std::string& connectionType) = 0;
+    /// A blocking GET; the window keeps repainting meanwhile. An empty body,
+    /// a transfer over its size or time limit and an HTTP error status are
+    /// failed transfers.
+    virtual HttpReply get(const std::string& url) = 0;
+};
+
+class Clock {
+  public:
+    virtual ~Clock() = default;
+    /// Today's local date.
+    virtual std::chrono::year_month_day today() = 0;
+};
+
 /// Everything the platform does for the calculator, piece by piece, so that a
 /// front end or a test can replace any one piece.
 struct Platform {
     Interaction& ui;
     Regional& regional;
+    Storage& storage;
+    Network& network;
+    Clock& clock;
 };
 
 } // namespace zel

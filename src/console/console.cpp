@@ -3,7 +3,9 @@
 #include "console/console.h"
 
 #include "app/options.h"
-#include "platform/qtregional.h"
+#include "platform/sharedplatform.h"
+
+#include <QCoreApplication>
 
 #include <charconv>
 #include <fstream>
@@ -265,6 +267,8 @@ void ConsoleSession::show(const Menu& menu, std::ostream& out) {
 }
 
 int runConsole(int argc, char** argv) {
+    QCoreApplication application(argc, argv); // HTTP needs an event loop
+    QCoreApplication::setApplicationName(QStringLiteral("zelFLIGHTAB"));
     const Options options = parseOptions(std::vector<std::string>(argv + 1, argv + argc));
     if (!options.error.empty()) {
         std::cerr << "error: " << options.error << '\n';
@@ -293,9 +297,12 @@ int runConsole(int argc, char** argv) {
     }
     std::istream& in = options.file ? static_cast<std::istream&>(file) : std::cin;
 
-    QtRegional regional(options.locale, replacement);
+    SharedPlatform shared{QtRegional(options.locale, replacement),
+                          QtStorage(QtStorage::locateProgramFolder(options.folder)),
+                          {},
+                          {}};
     ConsoleInteraction interaction(std::cout);
-    Platform platform{interaction, regional};
+    Platform platform = shared.with(interaction);
     Menu menu(platform);
     ConsoleSession session(menu, interaction, std::cout);
     session.start();

@@ -1,6 +1,8 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 # Runs one console script and compares what it printed, and its exit status,
 # with NAME.expected. A line "#args: ..." in the script gives the options.
+# Each script runs with a settings folder of its own, which starts from
+# NAME.ini when the script has one beside it (else from the shipped file).
 get_filename_component(dir ${SCRIPT} DIRECTORY)
 get_filename_component(name ${SCRIPT} NAME_WE)
 file(STRINGS ${SCRIPT} arg_lines REGEX "^#args:")
@@ -10,7 +12,13 @@ if(arg_lines)
     string(REGEX REPLACE "^#args: *" "" arg_line "${arg_line}")
     separate_arguments(args UNIX_COMMAND "${arg_line}")
 endif()
-execute_process(COMMAND ${PROGRAM} --console ${SCRIPT} ${args}
+set(folder ${CMAKE_CURRENT_BINARY_DIR}/golden/${name})
+file(REMOVE_RECURSE ${folder})
+if(EXISTS ${dir}/${name}.ini)
+    file(MAKE_DIRECTORY ${folder}/Tech)
+    file(COPY_FILE ${dir}/${name}.ini ${folder}/Tech/zelFLIGHTAB.ini)
+endif()
+execute_process(COMMAND ${PROGRAM} --console ${SCRIPT} --folder ${folder} ${args}
     OUTPUT_VARIABLE out ERROR_VARIABLE err RESULT_VARIABLE status)
 set(actual "${out}${err}exit ${status}\n")
 file(READ ${dir}/${name}.expected expected)

@@ -15,7 +15,10 @@ struct Session {
     std::ostringstream out;
     ConsoleInteraction ui{out};
     FakeRegional regional;
-    Platform platform{ui, regional};
+    FakeStorage storage;
+    FakeNetwork network;
+    FakeClock clock;
+    Platform platform{ui, regional, storage, network, clock};
     Menu menu{platform};
     ConsoleSession session{menu, ui, out};
     Session() { session.start(); }

@@ -5,7 +5,10 @@
 #include "app/menu.h"
 #include "app/platform.h"
 
+#include <algorithm>
 #include <deque>
+#include <functional>
+#include <map>
 #include <string>
 #include <vector>
 
@@ -51,6 +54,65 @@ class FakeRegional : public Regional {
     Symbols symbols() override { return value; }
 };
 
+/// Files in memory; `unreadable` and `readOnly` paths fail the way a disk does.
+class FakeStorage : public Storage {
+  public:
+    std::string folder = "/pilot";
+    std::map<std::string, std::string> files;
+    std::vector<std::string> unreadable;
+    std::vector<std::string> readOnly;
+
+    std::string programFolder() override { return folder; }
+    FileRead read(const std::string& path) override {
+        if (std::find(unreadable.begin(), unreadable.end(), path) != unreadable.end()) {
+            return {FileRead::Status::Unreadable, {}};
+        }
+        const auto file = files.find(path);
+        return file == files.end() ? FileRead{} : FileRead{FileRead::Status::Ok, file->second};
+    }
+    bool write(const std::string& path, std::string_view bytes) override {
+        if (std::find(readOnly.begin(), readOnly.end(), path) != readOnly.end()) {
+            return false;
+        }
+        files[path] = std::string(bytes);
+        return true;
+    }
+    void remove(const std::string& path) override { files.erase(path); }
+
+    std::string& settings() { return files[folder + "/Tech/zelFLIGHTAB.ini"]; }
+};
+
+/// Serves replies by URL; an unknown URL is refused like a closed port.
+class FakeNetwork : public Network {
+  public:
+    bool online = true;
+    std::map<std::string, HttpReply> replies;
+    std::vector<std::string> requested;
+    std::function<void()> during; ///< runs inside each transfer, as the window's events do
+
+    bool connected(std::string& type) override {
+        type = "LAN";
+        return online;
+    }
+    HttpReply get(const std::string& url) override {
+        requested.push_back(url);
+        if (during) {
+            during();
+        }
+        const auto reply = replies.find(url);
+        return reply != replies.end() ? reply->second
+                                      : HttpReply{false, 1, "Connection refused", {}};
+    }
+    void serve(const std::string& url, std::string body) { replies[url] = {true, 0, {}, body}; }
+};
+
+class FakeClock : public Clock {
+  public:
+    /// 22 November 2026, day 46348.
+    std::chrono::year_month_day date{std::chrono::year{2026} / 11 / 22};
+    std::chrono::year_month_day today() override { return date; }
+};
+
 inline const Symbols Dot{".", ","};
 inline const Symbols Comma{",", "."};
 
@@ -58,7 +120,10 @@ inline const Symbols Comma{",", "."};
 struct Calculator {
     FakeInteraction ui;
     FakeRegional regional;
-    Platform platform{ui, regional};
+    FakeStorage storage;
+    FakeNetwork network;
+    FakeClock clock;
+    Platform platform{ui, regional, storage, network, clock};
     Menu menu{platform};
 
     explicit Calculator(const Symbols& symbols = Dot, int page = 0) {

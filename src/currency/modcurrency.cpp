@@ -1,0 +1,287 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 zelFLIGHTAB developers
+#include "currency/modcurrency.h"
+
+#include "currency/profile.h"
+#include "currency/ratepages.h"
+
+#include <limits>
+
+namespace zel {
+namespace {
+
+constexpr std::string_view AppTitle = "zelFLIGHTAB";
+constexpr std::string_view Rates = "Rates";
+constexpr std::string_view DefaultConverterUrl = "https://www.google.com/finance/converter";
+constexpr std::string_view DefaultEcbUrl =
+    "https://www.ecb.europa.eu/stats/eurofxref/eurofxref-daily.xml";
+
+/// Sets a flag for as long as it lives.
+class Raised {
+  public:
+    explicit Raised(bool& flag) : m_flag(flag) { m_flag = true; }
+    ~Raised() { m_flag = false; }
+    Raised(const Raised&) = delete;
+    Raised& operator=(const Raised&) = delete;
+
+  private:
+    bool& m_flag;
+};
+
+/// The hourglass, put back whatever way the download ends.
+class BusyPointer {
+  public:
+    explicit BusyPointer(Interaction& ui) : m_ui(ui) { m_ui.setBusy(true); }
+    ~BusyPointer() { m_ui.setBusy(false); }
+    BusyPointer(const BusyPointer&) = delete;
+    BusyPointer& operator=(const BusyPointer&) = delete;
+
+  private:
+    Interaction& m_ui;
+};
+
+std::string upperCase(std::string_view text) {
+    std::string out(text);
+    for (char& c : out) {
+        if (c >= 'a' && c <= 'z') {
+            c = static_cast<char>(c - 32);
+        }
+    }
+    return out;
+}
+
+bool isNoCurrency(std::string_view code) {
+    return charCount(code) != 3 || upperCase(code) == ModCurrency::NoCurrency;
+}
+
+} // namespace
+
+std::string ModCurrency::NormalizePath(std::string_view path) {
+    if (path.find_first_not_of(" \t") == std::string_view::npos) {
+        return {};
+    }
+    if (path.back() == '/' || path.back() == '\\') {
+        path.remove_suffix(1);
+    }
+    return std::string(path);
+}
+
+double ModCurrency::ToNumber(std::optional<std::string_view> value, const Symbols& symbols) {
+    if (!value || value->empty() || !readRegional(*value, symbols)) {
+        return 0;
+    }
+    return symbols.decimal == "." ? CGetal(*value, symbols) : *readRegional(*value, symbols);
+}
+
+std::string ModCurrency::settingsFile() {
+    return NormalizePath(m_platform.storage.programFolder()) + "/Tech/zelFLIGHTAB.ini";
+}
+
+std::string ModCurrency::techFile(std::string_view name) {
+    return NormalizePath(m_platform.storage.programFolder()) + "/Tech/" + std::string(name);
+}
+
+std::string ModCurrency::ReadIni(std::string_view section, std::string_view key) {
+    const FileRead file = m_platform.storage.read(settingsFile());
+    return file.status == FileRead::Status::Ok ? profile::read(file.bytes, section, key)
+                                               : std::string();
+}
+
+bool ModCurrency::WriteIni(std::string_view section, std::string_view key, std::string_view value) {
+    const std::string path = settingsFile();
+    const FileRead file = m_platform.storage.read(path);
+    if (file.status == FileRead::Status::Unreadable) {
+        return false; // writing would replace a file nobody could read back
+    }
+    const std::string changed = profile::write(file.bytes, section, key, value);
+    return changed == file.bytes || m_platform.storage.write(path, changed);
+}
+
+std::string ModCurrency::today() {
+    return std::to_string(daySerial(m_platform.clock.today()));
+}
+
+std::array<float, 8> ModCurrency::LoadRates(const Symbols& symbols) {
+    m_myCurrCode = ReadIni(Rates, "myCurrCode");
+    if (charCount(m_myCurrCode) != 3) {
+        m_myCurrCode = NoCurrency;
+    }
+    // A rate list 7 days old is kept; from the 8th day on the user is asked.
+    if (ToNumber(today(), symbols) - ToNumber(ReadIni(Rates, "Date"), symbols) > 7) {
+        DownloadRates();
+    }
+    std::array<float, 8> rates{};
+    for (std::size_t row = 0; row < rates.size(); ++row) {
+        const std::string code = row < RowCodes.size() ? std::string(RowCodes[row]) : m_myCurrCode;
+        std::string text;
+        for (char c : ReadIni(Rates, code)) {
+            // Rates are stored with "." whatever the machine's decimal symbol.
+            text += c == '.' ? symbols.decimal : std::string(1, c);
+        }
+        const double value = ToNumber(text, symbols);
+        // Units per euro: anything that is not a positive single-precision
+        // number is no rate.
+        rates[row] = value > 0 && value <= std::numeric_limits<float>::max()
+                         ? static_cast<float>(value)
+                         : 0.0f;
+    }
+    return rates;
+}
+
+std::string ModCurrency::ownCurrencyCaption() {
+    const std::string code = ReadIni(Rates, "myCurrCode");
+    if (isNoCurrency(code)) {
+        return {}; // no row 8 until a currency is named
+    }
+    return ReadIni(Rates, "myCurrName") + " - " + code;
+}
+
+bool ModCurrency::SetMyCurrency() {
+    Interaction& ui = m_platform.ui;
+    const auto name =
+        ui.input("myCurrency", "Enter the long name for my currency : \r\re.g. Mexican Peso");
+    if (!name || name->empty()) {
+        return false;
+    }
+    WriteIni(Rates, "myCurrName", *name);
+    const auto code = ui.input(
+        "myCurrency", "Enter the official 3-character code for my currency : \r\re.g. MXN");
+    if (!code || charCount(*code) != 3) {
+        ui.message(MessageIcon::Critical, "myCurrency", "Invalid Currency");
+        return false;
+    }
+    m_myCurrCode = upperCase(*code);
+    WriteIni(Rates, "myCurrCode", m_myCurrCode);
+    DownloadRates();
+    return true;
+}
+
+bool ModCurrency::IsConnected(std::string& connectionType) {
+    connectionType.clear();
+    if (m_platform.network.connected(connectionType)) {
+        return true;
+    }
+    m_platform.ui.message(MessageIcon::Information, AppTitle,
+                          "Internet connection is required to update the currency rates...");
+    return false;
+}
+
+bool ModCurrency::DownloadFile(const std::string& url, const std::string& fileName) {
+    m_platform.storage.remove(fileName);
+    HttpReply reply = m_platform.network.get(url);
+    if (reply.ok && !m_platform.storage.write(fileName, reply.body)) {
+        reply = {false, 75, "Path/File access error (" + fileName + ")", {}};
+    }
+    if (!reply.ok) {
+        m_platform.ui.message(
+            MessageIcon::Critical, "Error",
+            "The following error occurred while attempting download from internet :\r\rError " +
+                std::to_string(reply.error) + ": " + reply.errorText +
+                " at line: 0\r\rURL :  " + url);
+        return false;
+    }
+    return true;
+}
+
+ModCurrency::Source ModCurrency::source() {
+    return upperCase(ReadIni("Download", "Source")) == "CONVERTER" ? Source::Converter
+                                                                   : Source::Ecb;
+}
+
+std::string ModCurrency::sourceNote() {
+    const std::string_view from =
+        source() == Source::Converter ? "Google Finance" : "the European Central Bank";
+    return "Currency Rates are retrieved from " + std::string(from) +
+           ".\r\rPress the Rates button to download the latest rates...";
+}
+
+void ModCurrency::cannotRead(std::string_view code) {
+    m_platform.ui.message(MessageIcon::Critical, AppTitle,
+                          "Cannot read the currency rate for " + std::string(code));
+}
+
+void ModCurrency::DownloadRates() {
+    if (m_downloading) {
+        return; // one download at a time
+    }
+    const Raised running(m_downloading);
+    std::string connectionType;
+    if (!IsConnected(connectionType) ||
+        !m_platform.ui.question("Currency", "Download recent currency rates ?")) {
+        return;
+    }
+    bool done = false;
+    {
+        const BusyPointer busy(m_platform.ui);
+        // Euro is the base and is never fetched.
+        const std::array<std::string, 7> codes{"AUD", "CAD", "INR",       "JPY",
+                                               "GBP", "USD", m_myCurrCode};
+        done = source() == Source::Converter ? fetchConverterRates(codes) : fetchEcbRates(codes);
+        if (done) {
+            WriteIni(Rates, "Date", today());
+        }
+    }
+    if (done) {
+        m_platform.ui.beep();
+    }
+}
+
+bool ModCurrency::fetchConverterRates(const std::array<std::string, 7>& codes) {
+    std::string base = ReadIni("Download", "ConverterUrl");
+    if (base.empty()) {
+        base = DefaultConverterUrl;
+    }
+    auto keptPage = [&](const std::string& code) {
+        return techFile("rate_" + fileSafe(code) + ".htm");
+    };
+    for (const std::string& code : codes) {
+        DownloadFile(base + "?a=1&from=EUR&to=" + percentEncode(code), keptPage(code));
+    }
+    for (const std::string& code : codes) {
+        const FileRead page = m_platform.storage.read(keptPage(code));
+        const auto rate =
+            page.status == FileRead::Status::Ok ? cutConverterRate(page.bytes) : std::nullopt;
+        if (!rate) {
+            cannotRead(code); // the rates stored so far stay; the date is not renewed
+            return false;
+        }
+        if (rate->find("color") != std::string::npos && code != NoCurrency) {
+            m_platform.ui.message(MessageIcon::Critical, AppTitle,
+                                  "Cannot find currency rate for " + code);
+        }
+        // Stored as the page gives it, result or not: a text that is no number reads as 0.
+        WriteIni(Rates, code, *rate);
+    }
+    return true;
+}
+
+bool ModCurrency::fetchEcbRates(const std::array<std::string, 7>& codes) {
+    std::string url = ReadIni("Download", "EcbUrl");
+    if (url.empty()) {
+        url = DefaultEcbUrl;
+    }
+    const std::string kept = techFile("rate_ECB.xml");
+    DownloadFile(url, kept);
+    const FileRead feed = m_platform.storage.read(kept);
+    const auto rates =
+        feed.status == FileRead::Status::Ok ? parseEcbFeed(feed.bytes) : std::nullopt;
+    if (!rates) {
+        cannotRead(codes.front());
+        return false;
+    }
+    for (const std::string& code : codes) {
+        if (code == NoCurrency) {
+            continue;
+        }
+        const auto rate = rates->find(code);
+        if (rate == rates->end()) {
+            m_platform.ui.message(MessageIcon::Critical, AppTitle,
+                                  "Cannot find currency rate for " + code);
+            continue;
+        }
+        WriteIni(Rates, code, rate->second);
+    }
+    return true;
+}
+
+} // namespace zel

@@ -1,0 +1,79 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 zelFLIGHTAB developers
+#pragma once
+
+#include "app/platform.h"
+#include "entry/numbertext.h"
+
+#include <array>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace zel {
+
+/// The Currency page's rates and the user's own currency, kept in the settings
+/// file <program folder>/Tech/zelFLIGHTAB.ini, section "Rates": one key per
+/// currency code holding units of that currency per euro ("1.0705" US dollars),
+/// "myCurrName" and "myCurrCode" for the user's own currency, and "Date", the
+/// day number of the last download. Section "Download" chooses the rate source.
+class ModCurrency {
+  public:
+    /// The rows of the Currency page, in order; row 8 is the user's own currency.
+    static constexpr std::array<std::string_view, 7> RowCodes{"AUD", "CAD", "EUR", "INR",
+                                                              "JPY", "GBP", "USD"};
+    /// "XXX", the code of no currency: no own currency is set.
+    static constexpr std::string_view NoCurrency = "XXX";
+
+    explicit ModCurrency(Platform& platform) : m_platform(platform) {}
+
+    /// One key of the settings file; "" when the file or the key is missing.
+    std::string ReadIni(std::string_view section, std::string_view key);
+    /// Writes one key, keeping the rest of the file; false when the file could
+    /// not be written (or exists but could not be read, and so is left alone).
+    bool WriteIni(std::string_view section, std::string_view key, std::string_view value);
+    /// The folder without its trailing separator ("/" or "\"); "" for a blank path.
+    static std::string NormalizePath(std::string_view path);
+    /// The number in a text, 0 when there is none. With "." as decimal symbol the
+    /// text is read from its start as a plain number; otherwise the regional way.
+    static double ToNumber(std::optional<std::string_view> value, const Symbols& symbols);
+
+    /// The eight rates of the Currency page, 0 for a rate that is missing or
+    /// unreadable. Stored rates more than 7 days old are offered for download first.
+    std::array<float, 8> LoadRates(const Symbols& symbols);
+    /// Row 8's caption, "Mexican Peso - MXN"; empty while no own currency is set.
+    std::string ownCurrencyCaption();
+    /// The two input boxes that name the user's own currency, then a download.
+    /// True when the Currency page must be loaded again.
+    bool SetMyCurrency();
+
+    /// Whether the Internet can be reached; says so when it cannot.
+    bool IsConnected(std::string& connectionType);
+    /// Fetches `url` into `fileName`; says why when it cannot.
+    bool DownloadFile(const std::string& url, const std::string& fileName);
+    /// Asks, then refreshes every rate from the source the settings name.
+    void DownloadRates();
+    /// True while a download runs (the window takes no other action meanwhile).
+    bool downloading() const { return m_downloading; }
+
+    /// The text of the Currency page's "i" key: where the rates come from.
+    std::string sourceNote();
+    const std::string& MyCurrCode() const { return m_myCurrCode; }
+    /// The settings file's path.
+    std::string settingsFile();
+
+  private:
+    enum class Source { Ecb, Converter };
+    Source source();
+    std::string techFile(std::string_view name);
+    std::string today();
+    bool fetchConverterRates(const std::array<std::string, 7>& codes);
+    bool fetchEcbRates(const std::array<std::string, 7>& codes);
+    void cannotRead(std::string_view code);
+
+    Platform& m_platform;
+    std::string m_myCurrCode{NoCurrency};
+    bool m_downloading = false;
+};
+
+} // namespace zel

@@ -1,0 +1,288 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 zelFLIGHTAB developers
+#include "currency/profile.h"
+
+#include "entry/numbertext.h"
+
+#include <algorithm>
+#include <array>
+#include <optional>
+#include <vector>
+
+namespace zel::profile {
+namespace {
+
+constexpr std::string_view Blanks = " \t";
+constexpr std::string_view ByteOrderMark = "\xEF\xBB\xBF";
+
+/// The characters that code page 1252 puts at 0x80..0x9F (0 where it has none);
+/// every other byte is the Latin-1 character of the same number.
+constexpr std::array<char32_t, 32> Windows1252High{
+    0x20AC, 0,      0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
+    0x2039, 0x0152, 0,      0x017D, 0,      0,      0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
+    0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0,      0x017E, 0x0178};
+
+void appendUtf8(std::string& out, char32_t c) {
+    if (c < 0x80) {
+        out += static_cast<char>(c);
+    } else if (c < 0x800) {
+        out += static_cast<char>(0xC0 | (c >> 6));
+        out += static_cast<char>(0x80 | (c & 0x3F));
+    } else {
+        out += static_cast<char>(0xE0 | (c >> 12));
+        out += static_cast<char>(0x80 | ((c >> 6) & 0x3F));
+        out += static_cast<char>(0x80 | (c & 0x3F));
+    }
+}
+
+std::string fromWindows1252(std::string_view bytes) {
+    std::string out;
+    for (char byte : bytes) {
+        const auto b = static_cast<unsigned char>(byte);
+        const char32_t c = b >= 0x80 && b < 0xA0 ? Windows1252High[b - 0x80] : b;
+        appendUtf8(out, c == 0 ? U'?' : c);
+    }
+    return out;
+}
+
+/// UTF-8 text in code page 1252; a character the code page lacks becomes "?".
+std::string toWindows1252(std::string_view text) {
+    std::string out;
+    for (std::size_t at = 0; at < text.size();) {
+        const auto lead = static_cast<unsigned char>(text[at]);
+        const int length = lead < 0x80 ? 1 : lead < 0xE0 ? 2 : lead < 0xF0 ? 3 : 4;
+        char32_t c = length == 1 ? lead : lead & (0x7F >> length);
+        for (int i = 1; i < length && at + static_cast<std::size_t>(i) < text.size(); ++i) {
+            c = (c << 6) |
+                (static_cast<unsigned char>(text[at + static_cast<std::size_t>(i)]) & 0x3F);
+        }
+        at += static_cast<std::size_t>(length);
+        if (c < 0x80 || (c >= 0xA0 && c <= 0xFF)) {
+            out += static_cast<char>(c);
+            continue;
+        }
+        const auto* found = std::find(Windows1252High.begin(), Windows1252High.end(), c);
+        out += found != Windows1252High.end() && c != 0
+                   ? static_cast<char>(0x80 + (found - Windows1252High.begin()))
+                   : '?';
+    }
+    return out;
+}
+
+std::string_view trim(std::string_view text) {
+    const auto first = text.find_first_not_of(Blanks);
+    if (first == std::string_view::npos) {
+        return {};
+    }
+    return text.substr(first, text.find_last_not_of(Blanks) - first + 1);
+}
+
+bool sameName(std::string_view a, std::string_view b) {
+    auto lower = [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + 32) : c; };
+    return a.size() == b.size() && std::equal(a.begin(), a.end(), b.begin(),
+                                              [&](char x, char y) { return lower(x) == lower(y); });
+}
+
+/// One line of the file: its text and its own line end ("\r\n", "\n", "\r" or none).
+struct Line {
+    std::string_view text;
+    std::string_view end;
+};
+
+std::vector<Line> splitLines(std::string_view file) {
+    std::vector<Line> lines;
+    while (!file.empty()) {
+        const auto stop = file.find_first_of("\r\n");
+        if (stop == std::string_view::npos) {
+            lines.push_back({file, {}});
+            break;
+        }
+        const std::size_t endLength = file.substr(stop, 2) == "\r\n" ? 2 : 1;
+        lines.push_back({file.substr(0, stop), file.substr(stop, endLength)});
+        file.remove_prefix(stop + endLength);
+    }
+    if (!lines.empty() && lines.front().text.starts_with(ByteOrderMark)) {
+        lines.front().text.remove_prefix(ByteOrderMark.size());
+    }
+    return lines;
+}
+
+/// The section name of a "[name]" line.
+std::optional<std::string_view> sectionName(std::string_view line) {
+    line = trim(line);
+    if (!line.starts_with('[')) {
+        return std::nullopt;
+    }
+    const auto close = line.find(']');
+    if (close == std::string_view::npos) {
+        return std::nullopt;
+    }
+    return trim(line.substr(1, close - 1));
+}
+
+/// The key of a "key=value" line; comments and other lines have none.
+std::optional<std::string_view> keyName(std::string_view line) {
+    const std::string_view trimmed = trim(line);
+    if (trimmed.empty() || trimmed.front() == ';' || trimmed.front() == '#') {
+        return std::nullopt;
+    }
+    const auto equals = line.find('=');
+    if (equals == std::string_view::npos) {
+        return std::nullopt;
+    }
+    return trim(line.substr(0, equals));
+}
+
+/// Where a key sits: the index of its line (or of the last entry of its
+/// section when the key is missing), and whether section and key were found.
+struct Place {
+    bool section = false;
+    bool key = false;
+    std::size_t line = 0;
+};
+
+Place locate(const std::vector<Line>& lines, std::string_view section, std::string_view key) {
+    Place place;
+    bool inSection = false;
+    for (std::size_t i = 0; i < lines.size(); ++i) {
+        if (const auto name = sectionName(lines[i].text)) {
+            if (place.section) {
+                break; // only the first section of a name counts
+            }
+            inSection = sameName(*name, section);
+            if (inSection) {
+                place.section = true;
+                place.line = i;
+            }
+            continue;
+        }
+        if (!inSection) {
+            continue;
+        }
+        if (const auto name = keyName(lines[i].text)) {
+            if (sameName(*name, key)) {
+                place.key = true;
+                place.line = i;
+                return place;
+            }
+        }
+        if (!trim(lines[i].text).empty()) {
+            place.line = i;
+        }
+    }
+    return place;
+}
+
+std::string oneLine(std::string_view value) {
+    std::string out(value);
+    std::replace_if(
+        out.begin(), out.end(), [](char c) { return c == '\r' || c == '\n' || c == '\0'; }, ' ');
+    return out;
+}
+
+} // namespace
+
+bool isUtf8(std::string_view bytes) {
+    for (std::size_t at = 0; at < bytes.size();) {
+        const auto lead = static_cast<unsigned char>(bytes[at]);
+        std::size_t length = 0;
+        char32_t c = 0;
+        if (lead < 0x80) {
+            ++at;
+            continue;
+        }
+        if (lead >= 0xC2 && lead <= 0xDF) {
+            length = 2, c = lead & 0x1F;
+        } else if (lead >= 0xE0 && lead <= 0xEF) {
+            length = 3, c = lead & 0x0F;
+        } else if (lead >= 0xF0 && lead <= 0xF4) {
+            length = 4, c = lead & 0x07;
+        } else {
+            return false;
+        }
+        if (at + length > bytes.size()) {
+            return false;
+        }
+        for (std::size_t i = 1; i < length; ++i) {
+            const auto next = static_cast<unsigned char>(bytes[at + i]);
+            if ((next & 0xC0) != 0x80) {
+                return false;
+            }
+            c = (c << 6) | (next & 0x3F);
+        }
+        const char32_t least = length == 3 ? 0x800 : length == 4 ? 0x10000 : 0x80;
+        if (c < least || c > 0x10FFFF || (c >= 0xD800 && c <= 0xDFFF)) {
+            return false;
+        }
+        at += length;
+    }
+    return true;
+}
+
+std::string read(std::string_view file, std::string_view section, std::string_view key) {
+    const std::vector<Line> lines = splitLines(file);
+    const Place place = locate(lines, trim(section), trim(key));
+    if (!place.key) {
+        return {};
+    }
+    const std::string_view line = lines[place.line].text;
+    std::string_view value = trim(line.substr(line.find('=') + 1));
+    if (value.size() >= 2 && (value.front() == '"' || value.front() == '\'') &&
+        value.back() == value.front()) {
+        value = value.substr(1, value.size() - 2);
+    }
+    std::string text = isUtf8(file) ? std::string(value) : fromWindows1252(value);
+    // Cut to the longest value a read returns, on a character boundary.
+    std::size_t characters = 0;
+    for (std::size_t at = 0; at < text.size(); ++at) {
+        if ((static_cast<unsigned char>(text[at]) & 0xC0) != 0x80 && characters++ == MaxValue) {
+            text.resize(at);
+            break;
+        }
+    }
+    return text;
+}
+
+std::string write(std::string_view file, std::string_view section, std::string_view key,
+                  std::string_view value) {
+    const std::string entry = std::string(trim(key)) + "=" +
+                              (isUtf8(file) ? oneLine(value) : toWindows1252(oneLine(value)));
+    const std::string_view newline = file.find("\r\n") != std::string_view::npos ? "\r\n" : "\n";
+    const std::vector<Line> lines = splitLines(file);
+    const Place place = locate(lines, trim(section), trim(key));
+
+    if (!place.section) {
+        std::string out(file);
+        if (!out.empty() && out.back() != '\n' && out.back() != '\r') {
+            out += newline;
+        }
+        return out + "[" + std::string(trim(section)) + "]" + std::string(newline) + entry +
+               std::string(newline);
+    }
+    std::string out = file.starts_with(ByteOrderMark) ? std::string(ByteOrderMark) : std::string();
+    for (std::size_t i = 0; i < lines.size(); ++i) {
+        if (place.key && i == place.line) {
+            // The key keeps its indentation and spelling, the line its own line end.
+            const std::string_view original = lines[i].text;
+            const auto start = original.find_first_not_of(Blanks);
+            const auto equals = original.find('=');
+            out += original.substr(0, start);
+            out += trim(original.substr(start, equals - start));
+            out += entry.substr(entry.find('='));
+            out += lines[i].end;
+            continue;
+        }
+        out += lines[i].text;
+        out += lines[i].end;
+        if (!place.key && i == place.line) {
+            if (lines[i].end.empty()) {
+                out += newline; // the file's last line had no line end
+            }
+            out += entry;
+            out += lines[i].end.empty() ? newline : lines[i].end;
+        }
+    }
+    return out;
+}
+
+} // namespace zel::profile

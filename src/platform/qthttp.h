@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 zelFLIGHTAB developers
+#pragma once
+
+#include "app/platform.h"
+
+#include <memory>
+
+class QNetworkAccessManager;
+
+namespace zel {
+
+/// HTTP with QtNetwork: HTTPS, redirects followed (never from HTTPS down to
+/// HTTP), each transfer at most `Limits` long and large. The transfer blocks its
+/// caller in a local event loop, so the window keeps repainting meanwhile.
+class QtHttp : public Network {
+  public:
+    struct Limits {
+        int milliseconds = 15'000;
+        long long bytes = 1 << 20;
+    };
+
+    QtHttp();
+    explicit QtHttp(Limits limits);
+    ~QtHttp() override;
+
+    /// Asks QNetworkInformation where a backend exists; "unknown" counts as connected.
+    bool connected(std::string& connectionType) override;
+    HttpReply get(const std::string& url) override;
+
+  private:
+    Limits m_limits;
+    std::unique_ptr<QNetworkAccessManager> m_manager; // made on the first transfer
+};
+
+} // namespace zel

@@ -1,0 +1,87 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 zelFLIGHTAB developers
+#include "platform/qtstorage.h"
+
+#include <QCoreApplication>
+#include <QDate>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QSaveFile>
+#include <QStandardPaths>
+
+namespace zel {
+namespace {
+
+QString qt(const std::string& text) {
+    return QString::fromStdString(text);
+}
+
+constexpr auto SettingsInTech = "/Tech/zelFLIGHTAB.ini";
+
+} // namespace
+
+FileRead QtStorage::read(const std::string& path) {
+    QFile file(qt(path));
+    if (!file.exists()) {
+        return {};
+    }
+    if (!file.open(QIODevice::ReadOnly)) {
+        return {FileRead::Status::Unreadable, {}};
+    }
+    const QByteArray bytes = file.readAll();
+    if (file.error() != QFileDevice::NoError) {
+        return {FileRead::Status::Unreadable, {}};
+    }
+    return {FileRead::Status::Ok, bytes.toStdString()};
+}
+
+bool QtStorage::write(const std::string& path, std::string_view bytes) {
+    QDir().mkpath(QFileInfo(qt(path)).absolutePath());
+    // QSaveFile writes a temporary file beside the target and renames it over
+    // the target only when everything was written; it also refuses to replace
+    // a file that is not writable.
+    QSaveFile file(qt(path));
+    if (!file.open(QIODevice::WriteOnly)) {
+        return false;
+    }
+    if (file.write(bytes.data(), static_cast<qint64>(bytes.size())) !=
+        static_cast<qint64>(bytes.size())) {
+        file.cancelWriting();
+        file.commit();
+        return false;
+    }
+    return file.commit();
+}
+
+void QtStorage::remove(const std::string& path) {
+    QFile::remove(qt(path));
+}
+
+std::string QtStorage::locateProgramFolder(const std::optional<std::string>& folder) {
+    QString chosen;
+    if (folder) {
+        chosen = QDir(qt(*folder)).absolutePath();
+    } else if (const QString beside = QCoreApplication::applicationDirPath();
+               QFileInfo::exists(beside + SettingsInTech)) {
+        chosen = beside;
+    } else {
+        chosen = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
+    }
+    const QString settings = chosen + SettingsInTech;
+    if (!QFileInfo::exists(settings)) {
+        QFile shipped(QStringLiteral(":/zelflightab/zelFLIGHTAB.ini"));
+        if (shipped.open(QIODevice::ReadOnly)) {
+            QtStorage(chosen.toStdString())
+                .write(settings.toStdString(), shipped.readAll().toStdString());
+        }
+    }
+    return chosen.toStdString();
+}
+
+std::chrono::year_month_day QtClock::today() {
+    const QDate date = QDate::currentDate();
+    return std::chrono::year{date.year()} / date.month() / date.day();
+}
+
+} // namespace zel

@@ -1,0 +1,248 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 zelFLIGHTAB developers
+// The Currency page with its settings file, own currency and downloads, on fake
+// storage, network and clock (today is day 46348).
+#include "currency/profile.h"
+#include "fakeplatform.h"
+
+#include <gtest/gtest.h>
+
+namespace zel::test {
+namespace {
+
+constexpr const char* EcbUrl = "http://rates.test/eurofxref-daily.xml";
+constexpr const char* ConverterUrl = "http://rates.test/finance/converter";
+
+struct CurrencyPage : Calculator {
+    explicit CurrencyPage(int age = 0, const std::string& own = "myCurrCode=XXX\n",
+                          const std::string& source = "ecb", const Symbols& symbols = Dot)
+        : Calculator(symbols) {
+        storage.settings() = "[Rates]\nEUR=1\nAUD=1.6079\nCAD=1.4670\nINR=89.2495\n"
+                             "JPY=171.94\nGBP=0.84638\nUSD=1.0705\n" +
+                             own + "Date=" + std::to_string(46348 - age) +
+                             "\n\n; where rates come from\n[Download]\nSource=" + source +
+                             "\nEcbUrl=" + EcbUrl + "\nConverterUrl=" + ConverterUrl + "\n";
+    }
+    std::string ini(std::string_view key) {
+        return profile::read(storage.settings(), "Rates", key);
+    }
+    bool saw(std::string_view event) const {
+        return std::find(ui.events.begin(), ui.events.end(), event) != ui.events.end();
+    }
+    void serveFeed(const std::string& extra = "") {
+        network.serve(EcbUrl, "<Envelope><Cube><Cube time='2026-11-20'>"
+                              "<Cube currency='USD' rate='1.1612'/><Cube currency='JPY' "
+                              "rate='180.21'/><Cube currency='GBP' rate='0.8790'/>"
+                              "<Cube currency='AUD' rate='1.7800'/><Cube currency='CAD' "
+                              "rate='1.6233'/><Cube currency='INR' rate='102.8040'/>" +
+                                  extra + "</Cube></Cube></Envelope>");
+    }
+};
+
+TEST(CurrencyPage, ConvertsWithTheStoredRatesOnEitherDecimalSymbol) {
+    for (const auto& [symbols, usd, jpy] :
+         {std::tuple{Dot, "107.05", "17,194.00"}, std::tuple{Comma, "107,05", "17.194,00"}}) {
+        CurrencyPage page(0, "myCurrCode=XXX\n", "ecb", symbols);
+        page.menu.LabMenu_Click(18);
+        page.enter(3, "100");
+        EXPECT_EQ(page.caption(7), usd);
+        EXPECT_EQ(page.caption(5), jpy);
+        EXPECT_EQ(page.menu.row(8).unit, "") << "no own currency, no row 8";
+        EXPECT_TRUE(page.ui.events.empty());
+    }
+}
+
+TEST(CurrencyPage, AsksToDownloadFromTheEighthDay) {
+    for (const auto& [age, asks] : {std::pair{7, false}, std::pair{8, true}}) {
+        CurrencyPage page(age);
+        page.menu.LabMenu_Click(18);
+        EXPECT_EQ(page.saw("question Download recent currency rates ?"), asks) << age;
+    }
+}
+
+TEST(CurrencyPage, ShowsRowEightOnlyForAThreeCharacterCode) {
+    const std::pair<const char*, const char*> cases[] = {
+        {"myCurrName=Mexican Peso\nmyCurrCode=MX\nMX=19.5\n", ""},
+        {"myCurrName=Mexican Peso\nmyCurrCode=MXNN\nMXNN=19.5\n", ""},
+        {"myCurrName=Mexican Peso\nmyCurrCode=MXN\nMXN=19.5654\n", "Mexican Peso - MXN"},
+    };
+    for (const auto& [own, unit] : cases) {
+        CurrencyPage page(0, own);
+        page.menu.LabMenu_Click(18);
+        EXPECT_EQ(page.menu.row(8).unit, std::string(unit)) << own;
+    }
+    CurrencyPage page(0, cases[2].first);
+    page.menu.LabMenu_Click(18);
+    page.enter(3, "10");
+    EXPECT_EQ(page.caption(8), "195.65");
+}
+
+TEST(CurrencyPage, SetNamesTheOwnCurrency) {
+    using Answers = std::deque<std::optional<std::string>>;
+    const std::tuple<const char*, Answers, const char*, const char*, const char*> cases[] = {
+        {"a cancelled first box changes nothing", {std::nullopt}, "", "XXX", ""},
+        {"the code is stored in capitals",
+         {"Mexican Peso", "mxn"},
+         "Mexican Peso",
+         "MXN",
+         "Mexican Peso - MXN"},
+        {"four letters are refused, the name stays",
+         {"Mexican Peso", "MXNN"},
+         "Mexican Peso",
+         "XXX",
+         ""},
+    };
+    for (const auto& [name, answers, storedName, code, unit] : cases) {
+        CurrencyPage page;
+        page.menu.LabMenu_Click(18);
+        page.ui.inputs = answers;
+        page.menu.LabMEM_Click(1);
+        EXPECT_EQ(page.ini("myCurrName"), storedName) << name;
+        EXPECT_EQ(page.ini("myCurrCode"), code) << name;
+        EXPECT_EQ(page.menu.row(8).unit, unit) << name;
+        EXPECT_EQ(page.saw("critical myCurrency: Invalid Currency"),
+                  code == std::string("XXX") && answers.size() == 2)
+            << name;
+    }
+}
+
+TEST(CurrencyPage, DownloadsFromTheEcbFeed) {
+    CurrencyPage page;
+    page.menu.LabMenu_Click(18);
+    page.serveFeed();
+    const std::string before = page.storage.settings();
+    page.ui.answers = {true};
+    page.menu.LabMEM_Click(0);
+    EXPECT_EQ(page.ui.events, (std::vector<std::string>{"question Download recent currency rates ?",
+                                                        "busy on", "busy off", "beep"}));
+    EXPECT_EQ(page.ini("USD"), "1.1612");
+    EXPECT_EQ(page.ini("INR"), "102.8040");
+    EXPECT_EQ(page.ini("Date"), "46348");
+    EXPECT_EQ(page.storage.files.count("/pilot/Tech/rate_ECB.xml"), 1u);
+    // Everything but the rates is as it was: comment, other section, order.
+    EXPECT_EQ(page.storage.settings().substr(page.storage.settings().find("\n\n")),
+              before.substr(before.find("\n\n")));
+}
+
+TEST(CurrencyPage, DownloadsOneConverterPagePerCurrency) {
+    CurrencyPage page(0, "myCurrCode=XXX\n", "Converter");
+    for (const char* code : {"AUD", "CAD", "INR", "GBP", "USD", "XXX"}) {
+        page.network.serve(std::string(ConverterUrl) + "?a=1&from=EUR&to=" + code,
+                           "<html>\n<div id=currency_converter_result>1 EUR = <span "
+                           "class=bld>2.5 " +
+                               std::string(code) + "</span>\n");
+    }
+    page.network.serve(std::string(ConverterUrl) + "?a=1&from=EUR&to=JPY",
+                       "<div id=converter_result><span class=bld><i>color=red</i> JPY\n");
+    page.menu.LabMenu_Click(18);
+    page.ui.answers = {true};
+    page.menu.LabMEM_Click(0);
+    EXPECT_EQ(page.network.requested.size(), 7u);
+    EXPECT_EQ(page.network.requested.back(), std::string(ConverterUrl) + "?a=1&from=EUR&to=XXX");
+    EXPECT_TRUE(page.storage.files.count("/pilot/Tech/rate_XXX.htm"));
+    EXPECT_EQ(page.ini("GBP"), "2.5");
+    EXPECT_EQ(page.ini("XXX"), "2.5");
+    EXPECT_TRUE(page.saw("critical zelFLIGHTAB: Cannot find currency rate for JPY"));
+    EXPECT_EQ(page.ini("JPY"), "<i>color=red</i>") << "stored all the same; it reads as 0";
+    EXPECT_EQ(page.ini("Date"), "46348");
+}
+
+TEST(CurrencyPage, AFailedDownloadKeepsTheSettings) {
+    struct Case {
+        const char* name;
+        std::function<void(CurrencyPage&)> setup;
+        const char* message;
+    };
+    const std::string refused = "critical Error: The following error occurred while attempting "
+                                "download from internet :\r\rError 1: Connection refused at "
+                                "line: 0\r\rURL :  " +
+                                std::string(EcbUrl);
+    const Case cases[] = {
+        {"offline", [](CurrencyPage& p) { p.network.online = false; },
+         "information zelFLIGHTAB: Internet connection is required to update the currency "
+         "rates..."},
+        {"answered no", [](CurrencyPage& p) { p.ui.answers = {false}; }, nullptr},
+        {"refused", [](CurrencyPage&) {}, refused.c_str()},
+        {"refused, then the rate cannot be read", [](CurrencyPage&) {},
+         "critical zelFLIGHTAB: Cannot read the currency rate for AUD"},
+        {"malformed feed", [](CurrencyPage& p) { p.network.serve(EcbUrl, "<Cube><Cube>"); },
+         "critical zelFLIGHTAB: Cannot read the currency rate for AUD"},
+    };
+    for (const Case& c : cases) {
+        CurrencyPage page;
+        page.menu.LabMenu_Click(18);
+        page.ui.answers = {true};
+        c.setup(page);
+        const std::string before = page.storage.settings();
+        page.menu.LabMEM_Click(0);
+        EXPECT_EQ(page.storage.settings(), before) << c.name;
+        if (c.message) {
+            EXPECT_TRUE(page.saw(c.message)) << c.name;
+        }
+        EXPECT_FALSE(page.saw("beep")) << c.name;
+        EXPECT_NE(page.lastEvent(), "busy on") << c.name;
+    }
+}
+
+TEST(CurrencyPage, AFeedWithoutTheOwnCurrencyStoresTheOthers) {
+    CurrencyPage page(0, "myCurrName=Mexican Peso\nmyCurrCode=MXN\n");
+    page.menu.LabMenu_Click(18);
+    page.serveFeed();
+    page.ui.answers = {true};
+    page.menu.LabMEM_Click(0);
+    EXPECT_TRUE(page.saw("critical zelFLIGHTAB: Cannot find currency rate for MXN"));
+    EXPECT_EQ(page.ini("MXN"), "");
+    EXPECT_EQ(page.ini("USD"), "1.1612");
+    EXPECT_EQ(page.ini("Date"), "46348");
+}
+
+TEST(CurrencyPage, TakesNoActionWhileDownloading) {
+    CurrencyPage page;
+    page.menu.LabMenu_Click(18);
+    page.serveFeed();
+    page.ui.answers = {true, true};
+    page.network.during = [&] {
+        page.menu.LabMEM_Click(0); // a second "Rates"
+        page.menu.LabMenu_Click(1);
+        page.type("5");
+    };
+    page.menu.LabMEM_Click(0);
+    EXPECT_EQ(page.network.requested.size(), 1u);
+    EXPECT_EQ(page.menu.currentPage(), 18);
+    EXPECT_EQ(page.menu.display(), "0.");
+}
+
+TEST(CurrencyPage, ATypedCodeStaysInTheQueryAndTheTechFolder) {
+    CurrencyPage page(0, "myCurrCode=XXX\n", "converter");
+    const std::string settings = page.storage.settings();
+    page.storage.files.clear();
+    page.storage.folder = "/"; // the program at the root of its drive
+    page.storage.files["/Tech/zelFLIGHTAB.ini"] = settings;
+    page.menu.LabMenu_Click(18);
+    page.ui.inputs = {"Odd", "./&"};
+    page.ui.answers = {true};
+    page.menu.LabMEM_Click(1);
+    EXPECT_EQ(page.network.requested.back(),
+              std::string(ConverterUrl) + "?a=1&from=EUR&to=.%2F%26");
+    EXPECT_EQ(profile::read(page.storage.files["/Tech/zelFLIGHTAB.ini"], "Rates", "myCurrCode"),
+              "./&");
+    for (const auto& [path, bytes] : page.storage.files) {
+        EXPECT_TRUE(path.starts_with("/Tech/") && path.find("/", 6) == std::string::npos) << path;
+    }
+}
+
+TEST(CurrencyPage, TheInfoKeyNamesTheSource) {
+    for (const auto& [source, from] : {std::pair{"ecb", "the European Central Bank"},
+                                       std::pair{"converter", "Google Finance"}}) {
+        CurrencyPage page(0, "myCurrCode=XXX\n", source);
+        page.menu.LabMenu_Click(18);
+        page.menu.LabMEM_Click(2);
+        EXPECT_EQ(page.lastEvent(), "information Currency: Currency Rates are retrieved from " +
+                                        std::string(from) +
+                                        ".\r\rPress the Rates button to download the latest "
+                                        "rates...");
+    }
+}
+
+} // namespace
+} // namespace zel::test
