@@ -8,7 +8,6 @@
 
 #include <QApplication>
 
-#include <cstring>
 #include <fstream>
 #include <iostream>
 
@@ -43,34 +42,7 @@ int runScript(zel::SharedPlatform& shared, const zel::Options& options) {
     return 0;
 }
 
-} // namespace
-
-int main(int argc, char** argv) {
-    for (int i = 1; i < argc; ++i) {
-        if (std::strcmp(argv[i], "--console") == 0) {
-            return zel::runConsole(argc, argv);
-        }
-    }
-    QApplication app(argc, argv);
-    QApplication::setApplicationName(QStringLiteral("zelFLIGHTAB"));
-    const zel::Options options = zel::parseOptions(std::vector<std::string>(argv + 1, argv + argc));
-    if (!options.error.empty()) {
-        std::cerr << "error: " << options.error << '\n';
-        return 2;
-    }
-    std::optional<zel::Symbols> replacement;
-    if (options.symbols && !(replacement = zel::symbolsFromPair(*options.symbols))) {
-        std::cerr
-            << "error: --symbols takes two characters, the decimal then the grouping symbol\n";
-        return 2;
-    }
-    zel::SharedPlatform shared{zel::QtRegional(options.locale, replacement),
-                               zel::QtStorage(zel::QtStorage::locateProgramFolder(options.folder)),
-                               {},
-                               {}};
-    if (options.script) {
-        return runScript(shared, options);
-    }
+int runWindow(zel::SharedPlatform& shared) {
     zel::QtInteraction interaction;
     zel::Platform platform = shared.with(interaction);
     zel::Menu menu(platform);
@@ -79,4 +51,45 @@ int main(int argc, char** argv) {
     interaction.setFlash([&window] { window.flash(); });
     window.show();
     return QApplication::exec();
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    const zel::Options options = zel::parseOptions(std::vector<std::string>(argv + 1, argv + argc));
+    if (!options.error.empty()) {
+        std::cerr << "error: " << options.error << "\nTry 'zelflightab --help'.\n";
+        return 2;
+    }
+    if (options.help) {
+        std::cout << zel::usage();
+        return 0;
+    }
+    if (options.version) {
+        std::cout << zel::versionText() << '\n';
+        return 0;
+    }
+    // The text front ends need no display; HTTP still needs an event loop.
+    const bool text = options.console || !options.convert.empty();
+    std::unique_ptr<QCoreApplication> application =
+        text ? std::make_unique<QCoreApplication>(argc, argv)
+             : std::make_unique<QApplication>(argc, argv);
+    QCoreApplication::setApplicationName(QStringLiteral("zelFLIGHTAB"));
+    QCoreApplication::setApplicationVersion(QString::fromStdString(zel::versionText()));
+    std::string error;
+    const auto shared = zel::makeSharedPlatform(options, error);
+    if (!shared) {
+        std::cerr << "error: " << error << '\n';
+        return 2;
+    }
+    if (options.console) {
+        return zel::runConsole(options, *shared);
+    }
+    if (!options.convert.empty()) {
+        return zel::runConvert(options, *shared);
+    }
+    if (options.script) {
+        return runScript(*shared, options);
+    }
+    return runWindow(*shared);
 }

@@ -27,6 +27,18 @@ Options parseOptions(const std::vector<std::string>& arguments) {
             value(options.script);
         } else if (argument == "--screenshot") {
             value(options.screenshot);
+        } else if (argument == "--convert") {
+            if (i + 3 >= arguments.size()) {
+                options.error = "--convert needs a page, a row and a value";
+            } else {
+                options.convert.assign(arguments.begin() + static_cast<long>(i) + 1,
+                                       arguments.begin() + static_cast<long>(i) + 4);
+                i += 3;
+            }
+        } else if (argument == "--help" || argument == "-h") {
+            options.help = true;
+        } else if (argument == "--version") {
+            options.version = true;
         } else if (options.console && !options.file && !argument.starts_with("--")) {
             options.file = argument;
         } else {
@@ -37,6 +49,36 @@ Options parseOptions(const std::vector<std::string>& arguments) {
         }
     }
     return options;
+}
+
+std::string versionText() {
+    return std::string("zelFLIGHTAB ") + ZEL_VERSION;
+}
+
+std::string usage() {
+    return R"(Usage: zelflightab [OPTION]...
+A calculator for aircraft pilots: unit converters, fuel, wind and airspeed
+calculators, a SNOWTAM runway-state decoder and currency rates.
+
+  --convert PAGE ROW VALUE  convert VALUE given for ROW of PAGE, print the
+                            page's eight rows and exit. PAGE is a number 1-18
+                            or a name (weight, "fuel uplift", "Mach - AS");
+                            ROW is a number 1-8 or a unit (lbs, kt, °C);
+                            VALUE is written the regional way (1,5 in Germany)
+  --console [FILE]          run console commands from FILE (or standard input)
+                            and print what the window shows
+  --script FILE             run console commands against the window, then
+  --screenshot OUT.png      save a picture of it and exit
+  --locale NAME             regional number symbols of NAME (en_US, de_DE)
+  --symbols DG              decimal symbol D and grouping symbol G, as ",."
+  --folder DIR              keep the settings in DIR/Tech/zelFLIGHTAB.ini
+  --help                    print this help and exit
+  --version                 print the version and exit
+
+Without an option the window opens. Settings and currency rates live in
+Tech/zelFLIGHTAB.ini below the program folder: --folder, else beside the
+executable when that holds one, else ~/.local/share/zelFLIGHTAB.
+)";
 }
 
 } // namespace zel

@@ -17,9 +17,17 @@ struct Options {
     std::optional<std::string> folder;     ///< the program folder (settings, kept pages)
     std::optional<std::string> script;     ///< console commands run against the window
     std::optional<std::string> screenshot; ///< picture of the window, then exit
-    std::string error;                     ///< why the command line cannot be used
+    std::vector<std::string> convert;      ///< PAGE ROW VALUE: one conversion, printed
+    bool help = false;
+    bool version = false;
+    std::string error; ///< why the command line cannot be used
 };
 
 Options parseOptions(const std::vector<std::string>& arguments);
+
+/// What --help prints.
+std::string usage();
+/// What --version prints: "zelFLIGHTAB 0.1.0".
+std::string versionText();
 
 } // namespace zel

@@ -3,13 +3,13 @@
 #include "console/console.h"
 
 #include "app/options.h"
+#include "app/pages.h"
 #include "platform/sharedplatform.h"
-
-#include <QCoreApplication>
 
 #include <charconv>
 #include <fstream>
 #include <iostream>
+#include <variant>
 #include <vector>
 
 namespace zel {
@@ -63,7 +63,104 @@ std::optional<int> keyCode(std::string_view name) {
     return std::nullopt;
 }
 
+/// A name as it is compared: ASCII letters in lower case, digits, and any
+/// non-ASCII character but the degree sign; blanks and punctuation dropped
+/// ("Mach - AS" -> "machas", "°C" -> "c").
+std::string folded(std::string_view text) {
+    std::string out;
+    for (std::size_t at = 0; at < text.size(); ++at) {
+        const char c = text[at];
+        if (text.substr(at, 2) == "°") {
+            ++at;
+            continue;
+        }
+        if (c >= 'A' && c <= 'Z') {
+            out += static_cast<char>(c - 'A' + 'a');
+        } else if ((c >= 'a' && c <= 'z') || (c >= '0' && c <= '9') ||
+                   static_cast<unsigned char>(c) >= 0x80) {
+            out += c;
+        }
+    }
+    return out;
+}
+
+std::optional<int> findPage(std::string_view text) {
+    if (const auto n = number(text, 1, PageCount)) {
+        return n;
+    }
+    for (int page = 1; page <= PageCount; ++page) {
+        if (!folded(text).empty() && folded(text) == folded(pageInfo(page).name)) {
+            return page;
+        }
+    }
+    return std::nullopt;
+}
+
+/// The row a unit names: its short form after " - " ("lbs" of "pound - lbs"),
+/// or the whole caption where it has none; exact first, then in any case.
+std::variant<int, std::string> findRow(const Menu& menu, std::string_view text) {
+    if (const auto n = number(text, 1, PageSheet::Rows)) {
+        if (menu.row(*n).unit.empty() && menu.currentPage() != page::Snowtam) {
+            return "row " + std::to_string(*n) + " is not used on " + menu.title();
+        }
+        return *n;
+    }
+    for (const bool exact : {true, false}) {
+        std::vector<int> rows;
+        for (int row = 1; row <= PageSheet::Rows; ++row) {
+            const std::string& unit = menu.row(row).unit;
+            const auto dash = unit.rfind(" - ");
+            const std::string_view shortForm = dash == std::string::npos
+                                                   ? std::string_view(unit)
+                                                   : std::string_view(unit).substr(dash + 3);
+            if (!unit.empty() && (exact ? shortForm == text : folded(shortForm) == folded(text))) {
+                rows.push_back(row);
+            }
+        }
+        if (rows.size() == 1) {
+            return rows.front();
+        }
+        if (rows.size() > 1) {
+            return "row " + std::string(text) + " is ambiguous on " + menu.title() +
+                   ": give its number";
+        }
+    }
+    return "no row " + std::string(text) + " on " + menu.title();
+}
+
 } // namespace
+
+std::optional<std::string> convertOnce(Menu& menu, std::string_view page, std::string_view row,
+                                       std::string_view value) {
+    const auto pageNumber = findPage(page);
+    if (!pageNumber) {
+        return "unknown page: " + std::string(page) + " (a number from 1 to 18, or a page name)";
+    }
+    menu.LabMenu_Click(*pageNumber);
+    const auto rowNumber = findRow(menu, row);
+    if (const auto* error = std::get_if<std::string>(&rowNumber)) {
+        return *error;
+    }
+    const bool snowtam = *pageNumber == page::Snowtam;
+    const Symbols& symbols = menu.symbols();
+    const auto number = readRegional(value, symbols);
+    if (!snowtam && !number) {
+        return "not a number: " + std::string(value);
+    }
+    for (std::size_t at = 0; at < value.size();) {
+        const std::size_t start = at;
+        const char32_t c = nextCharacter(value, at);
+        if (value.substr(start, at - start) != symbols.grouping) {
+            menu.Form_KeyPress(c);
+        }
+    }
+    if (!snowtam && menu.scratchPad().inputValue() != *number) {
+        return "cannot type " + std::string(value) + ": write it with digits and " +
+               symbols.decimal + " only";
+    }
+    menu.LabValue_Click(std::get<int>(rowNumber));
+    return std::nullopt;
+}
 
 std::string quoted(std::string_view text) {
     std::string out = "\"";
@@ -260,33 +357,17 @@ void ConsoleSession::show(const Menu& menu, std::ostream& out) {
     }
     out << '\n';
     for (int row = 1; row <= PageSheet::Rows; ++row) {
-        const RowCell& cell = menu.row(row);
-        out << "row " << row << ' ' << quoted(cell.unit) << ' ' << quoted(cell.caption) << ' '
-            << cell.fontSize << ' ' << (cell.input ? "input" : "normal") << '\n';
+        showRow(menu, row, out);
     }
 }
 
-int runConsole(int argc, char** argv) {
-    QCoreApplication application(argc, argv); // HTTP needs an event loop
-    QCoreApplication::setApplicationName(QStringLiteral("zelFLIGHTAB"));
-    const Options options = parseOptions(std::vector<std::string>(argv + 1, argv + argc));
-    if (!options.error.empty()) {
-        std::cerr << "error: " << options.error << '\n';
-        return 2;
-    }
-    std::optional<Symbols> replacement;
-    if (options.symbols) {
-        replacement = symbolsFromPair(*options.symbols);
-        if (!replacement) {
-            std::cerr << "error: --symbols takes two characters, the decimal then the grouping "
-                         "symbol\n";
-            return 2;
-        }
-    }
-    if (options.locale && !QtRegional::isKnownLocale(*options.locale)) {
-        std::cerr << "error: unknown locale: " << *options.locale << '\n';
-        return 2;
-    }
+void ConsoleSession::showRow(const Menu& menu, int row, std::ostream& out) {
+    const RowCell& cell = menu.row(row);
+    out << "row " << row << ' ' << quoted(cell.unit) << ' ' << quoted(cell.caption) << ' '
+        << cell.fontSize << ' ' << (cell.input ? "input" : "normal") << '\n';
+}
+
+int runConsole(const Options& options, SharedPlatform& shared) {
     std::ifstream file;
     if (options.file) {
         file.open(*options.file);
@@ -296,11 +377,6 @@ int runConsole(int argc, char** argv) {
         }
     }
     std::istream& in = options.file ? static_cast<std::istream&>(file) : std::cin;
-
-    SharedPlatform shared{QtRegional(options.locale, replacement),
-                          QtStorage(QtStorage::locateProgramFolder(options.folder)),
-                          {},
-                          {}};
     ConsoleInteraction interaction(std::cout);
     Platform platform = shared.with(interaction);
     Menu menu(platform);
@@ -313,6 +389,23 @@ int runConsole(int argc, char** argv) {
             std::cerr << "error: line " << number << ": " << *error << '\n';
             return 2;
         }
+    }
+    return 0;
+}
+
+int runConvert(const Options& options, SharedPlatform& shared) {
+    ConsoleInteraction interaction(std::cout);
+    Platform platform = shared.with(interaction);
+    Menu menu(platform);
+    ConsoleSession(menu, interaction, std::cout).start();
+    if (const auto error = convertOnce(menu, options.convert.at(0), options.convert.at(1),
+                                       options.convert.at(2))) {
+        std::cout.flush();
+        std::cerr << "error: " << *error << '\n';
+        return 2;
+    }
+    for (int row = 1; row <= PageSheet::Rows; ++row) {
+        ConsoleSession::showRow(menu, row, std::cout);
     }
     return 0;
 }

@@ -55,6 +55,8 @@ class ConsoleSession {
 
     /// Prints the window's state, as the "show" command does.
     static void show(const Menu& menu, std::ostream& out);
+    /// Prints one row as "show" does: row N "unit" "caption" size input|normal.
+    static void showRow(const Menu& menu, int row, std::ostream& out);
 
   private:
     Menu& m_menu;
@@ -65,8 +67,19 @@ class ConsoleSession {
 /// A text in double quotes, with \" \\ \r \n escaped.
 std::string quoted(std::string_view text);
 
-/// `zelflightab --console [FILE] [--locale NAME] [--symbols DG] [--folder DIR]`:
-/// runs the commands of FILE (or standard input); the process exit status.
-int runConsole(int argc, char** argv);
+/// One conversion as a user makes it: opens PAGE (a number or a name, any
+/// case), types VALUE (regional form) and clicks ROW (a number, or the unit's
+/// short form after " - ": "lbs", "kt", "°C"). The reason when it cannot.
+std::optional<std::string> convertOnce(Menu& menu, std::string_view page, std::string_view row,
+                                       std::string_view value);
+
+struct SharedPlatform;
+struct Options;
+
+/// `zelflightab --console [FILE]`: runs the commands of FILE (or standard
+/// input); the process exit status.
+int runConsole(const Options& options, SharedPlatform& shared);
+/// `zelflightab --convert PAGE ROW VALUE`: prints the page's eight rows.
+int runConvert(const Options& options, SharedPlatform& shared);
 
 } // namespace zel

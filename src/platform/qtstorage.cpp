@@ -70,7 +70,13 @@ std::string QtStorage::locateProgramFolder(const std::optional<std::string>& fol
     }
     const QString settings = chosen + SettingsInTech;
     if (!QFileInfo::exists(settings)) {
-        QFile shipped(QStringLiteral(":/zelflightab/zelFLIGHTAB.ini"));
+        // An installed program starts from its shipped file (which a packager
+        // may have changed); a program run where it was built, from its own copy.
+        const QString installed = QCoreApplication::applicationDirPath() +
+                                  QStringLiteral("/../share/zelflightab/zelFLIGHTAB.ini");
+        QFile shipped(QFileInfo::exists(installed)
+                          ? installed
+                          : QStringLiteral(":/zelflightab/zelFLIGHTAB.ini"));
         if (shipped.open(QIODevice::ReadOnly)) {
             QtStorage(chosen.toStdString())
                 .write(settings.toStdString(), shipped.readAll().toStdString());

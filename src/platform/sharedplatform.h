@@ -2,15 +2,21 @@
 // SPDX-FileCopyrightText: 2026 zelFLIGHTAB developers
 #pragma once
 
+#include "app/options.h"
 #include "platform/qthttp.h"
 #include "platform/qtregional.h"
 #include "platform/qtstorage.h"
+
+#include <memory>
 
 namespace zel {
 
 /// The platform pieces that the window and the console share: regional
 /// symbols, the settings folder, HTTP and the clock. Only the dialogs differ.
 struct SharedPlatform {
+    SharedPlatform(QtRegional regional, QtStorage storage)
+        : regional(std::move(regional)), storage(std::move(storage)) {}
+
     QtRegional regional;
     QtStorage storage;
     QtHttp network;
@@ -18,5 +24,10 @@ struct SharedPlatform {
 
     Platform with(Interaction& ui) { return {ui, regional, storage, network, clock}; }
 };
+
+/// The shared pieces as the command line asks for them (--locale, --symbols,
+/// --folder); nothing, with the reason in `error`, when it asks for what
+/// cannot be. Needs a Qt application object.
+std::unique_ptr<SharedPlatform> makeSharedPlatform(const Options& options, std::string& error);
 
 } // namespace zel

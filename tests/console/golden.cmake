@@ -1,6 +1,8 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 # Runs one console script and compares what it printed, and its exit status,
-# with NAME.expected. A line "#args: ..." in the script gives the options.
+# with NAME.expected. A line "#args: ..." in the script gives the options; a
+# script made of a line "#run: ..." runs the program with those arguments
+# instead of the console (one-line conversions, --help).
 # Each script runs with a settings folder of its own, which starts from
 # NAME.ini when the script has one beside it (else from the shipped file).
 get_filename_component(dir ${SCRIPT} DIRECTORY)
@@ -18,7 +20,15 @@ if(EXISTS ${dir}/${name}.ini)
     file(MAKE_DIRECTORY ${folder}/Tech)
     file(COPY_FILE ${dir}/${name}.ini ${folder}/Tech/zelFLIGHTAB.ini)
 endif()
-execute_process(COMMAND ${PROGRAM} --console ${SCRIPT} --folder ${folder} ${args}
+file(STRINGS ${SCRIPT} run_lines REGEX "^#run:")
+set(command ${PROGRAM} --console ${SCRIPT} --folder ${folder} ${args})
+if(run_lines)
+    list(GET run_lines 0 run_line)
+    string(REGEX REPLACE "^#run: *" "" run_line "${run_line}")
+    separate_arguments(run_args UNIX_COMMAND "${run_line}")
+    set(command ${PROGRAM} --folder ${folder} ${run_args})
+endif()
+execute_process(COMMAND ${command}
     OUTPUT_VARIABLE out ERROR_VARIABLE err RESULT_VARIABLE status)
 set(actual "${out}${err}exit ${status}\n")
 file(READ ${dir}/${name}.expected expected)

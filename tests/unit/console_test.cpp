@@ -78,8 +78,46 @@ TEST(Options, ReadTheCommandLine) {
     EXPECT_EQ(o.file, "run.txt");
     EXPECT_EQ(o.locale, "de_DE");
     EXPECT_EQ(o.symbols, ",.");
+    EXPECT_EQ(parseOptions({"--convert", "weight", "lbs", "165"}).convert,
+              (std::vector<std::string>{"weight", "lbs", "165"}));
+    EXPECT_EQ(parseOptions({"--convert", "weight", "lbs"}).error,
+              "--convert needs a page, a row and a value");
     EXPECT_EQ(parseOptions({"--locale"}).error, "--locale needs a value");
     EXPECT_EQ(parseOptions({"--fly"}).error, "unknown argument: --fly");
+}
+
+TEST(Convert, FindsPagesAndRowsByNumberOrName) {
+    const std::tuple<const char*, const char*, const char*, Symbols, int, int, const char*>
+        cases[] = {
+            {"weight", "lbs", "165", Dot, 1, 1, "74.83"},
+            {"1", "2", "165", Dot, 1, 1, "74.83"},
+            {"TEMPERATURE", "°C", "-40", Dot, 7, 2, "-40.00"},
+            {"temperature", "c", "100", Dot, 7, 2, "212.00"},
+            {"Fuel Uplift", "1", "1.000,5", Comma, 10, 2, "2.206,10"},
+            {"mach-as", "feet", "10000", Dot, 13, 1, "10,000.00"},
+        };
+    for (const auto& [page, row, value, symbols, pageNumber, shownRow, caption] : cases) {
+        Calculator calc(symbols);
+        EXPECT_EQ(convertOnce(calc.menu, page, row, value), std::nullopt) << page << ' ' << row;
+        EXPECT_EQ(calc.menu.currentPage(), pageNumber) << page;
+        EXPECT_EQ(calc.caption(shownRow), caption) << page << ' ' << row;
+    }
+}
+
+TEST(Convert, ExplainsWhatItCannotDo) {
+    const std::tuple<const char*, const char*, const char*, const char*> cases[] = {
+        {"nowhere", "1", "1", "unknown page: nowhere (a number from 1 to 18, or a page name)"},
+        {"19", "1", "1", "unknown page: 19 (a number from 1 to 18, or a page name)"},
+        {"wind", "°", "90", "row ° is ambiguous on Wind: give its number"},
+        {"angle", "7", "1", "row 7 is not used on Angle"},
+        {"weight", "stone", "1", "no row stone on Weight"},
+        {"weight", "lbs", "abc", "not a number: abc"},
+        {"weight", "lbs", "1E5", "cannot type 1E5: write it with digits and . only"},
+    };
+    for (const auto& [page, row, value, error] : cases) {
+        Calculator calc;
+        EXPECT_EQ(convertOnce(calc.menu, page, row, value).value_or("converted"), error);
+    }
 }
 
 } // namespace
