@@ -90,11 +90,23 @@ std::string ModCurrency::ReadIni(std::string_view section, std::string_view key)
 bool ModCurrency::WriteIni(std::string_view section, std::string_view key, std::string_view value) {
     const std::string path = settingsFile();
     const FileRead file = m_platform.storage.read(path);
-    if (file.status == FileRead::Status::Unreadable) {
-        return false; // writing would replace a file nobody could read back
+    // Writing over a file that could not be read would lose what it holds.
+    const bool saved = file.status != FileRead::Status::Unreadable && [&] {
+        const std::string changed = profile::write(file.bytes, section, key, value);
+        return changed == file.bytes || m_platform.storage.write(path, changed);
+    }();
+    m_unsaved = m_unsaved || !saved;
+    return saved;
+}
+
+void ModCurrency::reportUnsaved() {
+    if (m_unsaved) {
+        m_unsaved = false;
+        m_platform.ui.message(MessageIcon::Critical, AppTitle,
+                              "Cannot save the settings file:\r\r" + settingsFile() +
+                                  "\r\rThe file is left as it was, so what was to be saved is "
+                                  "lost. Check that its folder exists and can be written to.");
     }
-    const std::string changed = profile::write(file.bytes, section, key, value);
-    return changed == file.bytes || m_platform.storage.write(path, changed);
 }
 
 std::string ModCurrency::today() {
@@ -147,11 +159,13 @@ bool ModCurrency::SetMyCurrency() {
     const auto code = ui.input(
         "myCurrency", "Enter the official 3-character code for my currency : \r\re.g. MXN");
     if (!code || charCount(*code) != 3) {
+        reportUnsaved();
         ui.message(MessageIcon::Critical, "myCurrency", "Invalid Currency");
         return false;
     }
     m_myCurrCode = upperCase(*code);
     WriteIni(Rates, "myCurrCode", m_myCurrCode);
+    reportUnsaved();
     DownloadRates();
     return true;
 }
@@ -221,6 +235,7 @@ void ModCurrency::DownloadRates() {
             WriteIni(Rates, "Date", today());
         }
     }
+    reportUnsaved();
     if (done) {
         m_platform.ui.beep();
     }

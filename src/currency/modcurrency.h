@@ -31,6 +31,7 @@ class ModCurrency {
     std::string ReadIni(std::string_view section, std::string_view key);
     /// Writes one key, keeping the rest of the file; false when the file could
     /// not be written (or exists but could not be read, and so is left alone).
+    /// The user is told once, when the action that wrote ends.
     bool WriteIni(std::string_view section, std::string_view key, std::string_view value);
     /// The folder without its trailing separator ("/" or "\"); "" for a blank path.
     static std::string NormalizePath(std::string_view path);
@@ -70,10 +71,12 @@ class ModCurrency {
     bool fetchConverterRates(const std::array<std::string, 7>& codes);
     bool fetchEcbRates(const std::array<std::string, 7>& codes);
     void cannotRead(std::string_view code);
+    void reportUnsaved();
 
     Platform& m_platform;
     std::string m_myCurrCode{NoCurrency};
     bool m_downloading = false;
+    bool m_unsaved = false; ///< a write failed since the user was last told
 };
 
 } // namespace zel

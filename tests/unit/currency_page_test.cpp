@@ -231,6 +231,27 @@ TEST(CurrencyPage, ATypedCodeStaysInTheQueryAndTheTechFolder) {
     }
 }
 
+TEST(CurrencyPage, SaysWhatItCouldNotSaveAndLeavesTheFileAlone) {
+    for (const bool readable : {true, false}) {
+        CurrencyPage page;
+        const std::string path = "/pilot/Tech/zelFLIGHTAB.ini";
+        (readable ? page.storage.readOnly : page.storage.unreadable).push_back(path);
+        const std::string before = page.storage.settings();
+        page.menu.LabMenu_Click(18);
+        page.ui.inputs = {"Mexican Peso", "MXN"};
+        page.menu.LabMEM_Click(1);
+        EXPECT_EQ(page.storage.settings(), before);
+        EXPECT_EQ(std::count_if(page.ui.events.begin(), page.ui.events.end(),
+                                [](const std::string& e) {
+                                    return e.starts_with("critical zelFLIGHTAB: Cannot save the "
+                                                         "settings file:\r\r/pilot/Tech/");
+                                }),
+                  1)
+            << "told once, readable " << readable;
+        EXPECT_EQ(page.menu.row(8).unit, "");
+    }
+}
+
 TEST(CurrencyPage, TheInfoKeyNamesTheSource) {
     for (const auto& [source, from] : {std::pair{"ecb", "the European Central Bank"},
                                        std::pair{"converter", "Google Finance"}}) {
