@@ -40,7 +40,7 @@ std::string fromWindows1252(std::string_view bytes) {
     for (char byte : bytes) {
         const auto b = static_cast<unsigned char>(byte);
         const char32_t c = b >= 0x80 && b < 0xA0 ? Windows1252High[b - 0x80] : b;
-        appendUtf8(out, c == 0 ? U'?' : c);
+        appendUtf8(out, c == 0 && b != 0 ? U'?' : c); // five codes are unassigned
     }
     return out;
 }
@@ -245,8 +245,14 @@ std::string read(std::string_view file, std::string_view section, std::string_vi
 
 std::string write(std::string_view file, std::string_view section, std::string_view key,
                   std::string_view value) {
-    const std::string entry = std::string(trim(key)) + "=" +
-                              (isUtf8(file) ? oneLine(value) : toWindows1252(oneLine(value)));
+    // A value that is not UTF-8 (bytes from a web page) is taken as ANSI, so
+    // that one odd value never turns the whole file into another encoding.
+    std::string text = oneLine(value);
+    if (!isUtf8(text)) {
+        text = fromWindows1252(text);
+    }
+    const std::string entry =
+        std::string(trim(key)) + "=" + (isUtf8(file) ? text : toWindows1252(text));
     const std::string_view newline = file.find("\r\n") != std::string_view::npos ? "\r\n" : "\n";
     const std::vector<Line> lines = splitLines(file);
     const Place place = locate(lines, trim(section), trim(key));

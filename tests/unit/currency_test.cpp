@@ -58,6 +58,8 @@ TEST(Profile, WritesOneKeyAndKeepsEverythingElse) {
             {"an empty file gets its first section", "", "Rates", "EUR", "1", "[Rates]\nEUR=1\n"},
             {"a line break cannot start a new key", "[A]\n", "A", "k", "x\r\nEUR=0",
              "[A]\nk=x  EUR=0\n"},
+            {"a value that is not UTF-8 is taken as ANSI", "[A]\nname=Z\xC5\x82oty\n", "A", "rate",
+             "1.2\xA0", "[A]\nname=Z\xC5\x82oty\nrate=1.2\xC2\xA0\n"},
             {"an ANSI file stays ANSI",
              "[A]\nname=Qu\xE9"
              "bec\n",
