@@ -119,6 +119,8 @@ TEST(RateDownload, TheEcbFeedGivesTheRates) {
     Download d("ecb");
     d.server.routes["/ecb.xml"] = {200, Feed, {}, false};
     d.openAndConvert();
+    EXPECT_EQ(d.ui.events, (std::vector<std::string>{"question Download recent currency rates ?",
+                                                     "busy on", "busy off", "beep"}));
     EXPECT_EQ(d.menu.row(7).caption, "116.12");
     EXPECT_EQ(d.menu.row(5).caption, "18,021.00");
     EXPECT_EQ(profile::read(d.settings(), "Rates", "Date"),
@@ -132,7 +134,13 @@ TEST(RateDownload, TheConverterGivesOnePagePerCurrency) {
         d.server.routes["/finance/converter?a=1&from=EUR&to=" + code] = {
             200, converterPage(code == "USD" ? "1.2917" : "2", code), {}, false};
     }
+    // A page without a result is said, and its text stored all the same (it reads as 0).
+    d.server.routes["/finance/converter?a=1&from=EUR&to=JPY"] = {
+        200, "<div id=converter_result><span class=bld><i>color=red</i> JPY\n", {}, false};
     d.openAndConvert();
+    EXPECT_TRUE(d.saw("critical zelFLIGHTAB: Cannot find currency rate for JPY"));
+    EXPECT_EQ(profile::read(d.settings(), "Rates", "JPY"), "<i>color=red</i>");
+    EXPECT_EQ(profile::read(d.settings(), "Rates", "XXX"), "2");
     EXPECT_EQ(d.server.requested.size(), 7);
     EXPECT_EQ(d.server.requested.front(), "/finance/converter?a=1&from=EUR&to=AUD");
     EXPECT_EQ(d.menu.row(7).caption, "129.17");
