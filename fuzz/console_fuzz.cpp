@@ -13,12 +13,9 @@ using namespace zel;
 extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t size) {
     std::ostringstream out;
     ConsoleInteraction ui(out);
-    test::FakeRegional regional;
-    regional.value = size > 0 && data[0] % 2 ? test::Comma : test::Dot;
-    test::FakeStorage storage;
-    test::FakeNetwork network;
-    test::FakeClock clock;
-    Platform platform{ui, regional, storage, network, clock};
+    test::FakeMachine machine;
+    machine.regional.value = size > 0 && data[0] % 2 ? test::Comma : test::Dot;
+    Platform platform = machine.with(ui);
     Menu menu(platform);
     ConsoleSession session(menu, ui, out);
     session.start();

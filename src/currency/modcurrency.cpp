@@ -73,12 +73,12 @@ double ModCurrency::ToNumber(std::optional<std::string_view> value, const Symbol
     return symbols.decimal == "." ? CGetal(*value, symbols) : *readRegional(*value, symbols);
 }
 
-std::string ModCurrency::settingsFile() {
-    return NormalizePath(m_platform.storage.programFolder()) + "/Tech/zelFLIGHTAB.ini";
-}
-
 std::string ModCurrency::techFile(std::string_view name) {
     return NormalizePath(m_platform.storage.programFolder()) + "/Tech/" + std::string(name);
+}
+
+std::string ModCurrency::settingsFile() {
+    return techFile("zelFLIGHTAB.ini");
 }
 
 std::string ModCurrency::ReadIni(std::string_view section, std::string_view key) {

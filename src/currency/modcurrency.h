@@ -59,11 +59,9 @@ class ModCurrency {
 
     /// The text of the Currency page's "i" key: where the rates come from.
     std::string sourceNote();
-    const std::string& MyCurrCode() const { return m_myCurrCode; }
-    /// The settings file's path.
-    std::string settingsFile();
 
   private:
+    std::string settingsFile();
     enum class Source { Ecb, Converter };
     Source source();
     std::string techFile(std::string_view name);

@@ -11,14 +11,10 @@
 namespace zel::test {
 namespace {
 
-struct Session {
+struct Session : FakeMachine {
     std::ostringstream out;
     ConsoleInteraction ui{out};
-    FakeRegional regional;
-    FakeStorage storage;
-    FakeNetwork network;
-    FakeClock clock;
-    Platform platform{ui, regional, storage, network, clock};
+    Platform platform = with(ui);
     Menu menu{platform};
     ConsoleSession session{menu, ui, out};
     Session() { session.start(); }

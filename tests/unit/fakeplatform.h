@@ -116,14 +116,20 @@ class FakeClock : public Clock {
 inline const Symbols Dot{".", ","};
 inline const Symbols Comma{",", "."};
 
-/// A started window with fake platform pieces, driven as a user drives it.
-struct Calculator {
-    FakeInteraction ui;
+/// Every platform piece but the dialogs, fake.
+struct FakeMachine {
     FakeRegional regional;
     FakeStorage storage;
     FakeNetwork network;
     FakeClock clock;
-    Platform platform{ui, regional, storage, network, clock};
+
+    Platform with(Interaction& ui) { return {ui, regional, storage, network, clock}; }
+};
+
+/// A started window with fake platform pieces, driven as a user drives it.
+struct Calculator : FakeMachine {
+    FakeInteraction ui;
+    Platform platform = with(ui);
     Menu menu{platform};
 
     explicit Calculator(const Symbols& symbols = Dot, int page = 0) {
