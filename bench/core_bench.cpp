@@ -2,8 +2,8 @@
 // SPDX-FileCopyrightText: 2026 zelFLIGHTAB developers
 // One whole row click (LabValue_Click through DisplayTags) on each factor page,
 // and one keystroke (Form_KeyPress through DisplayValue).
+#include "app/catalogue.h"
 #include "app/menu.h"
-#include "app/pages.h"
 
 #include <benchmark/benchmark.h>
 
@@ -49,7 +49,7 @@ void RowClick(benchmark::State& state) {
         menu.LabValue_Click(row);
         row = row % 8 + 1;
     }
-    state.SetLabel(std::string(zel::pageInfo(static_cast<int>(state.range(0))).name));
+    state.SetLabel(std::string(zel::pageCatalogue().page(static_cast<int>(state.range(0))).name));
 }
 BENCHMARK(RowClick)->Arg(1)->Arg(2)->Arg(3)->Arg(5)->Arg(8)->Arg(9)->Unit(benchmark::kNanosecond);
 

@@ -14,9 +14,8 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t siz
         return 0;
     }
     if (data[0] % 2 == 0) {
-        test::FakeInteraction ui;
         const Symbols symbols = data[0] % 4 ? test::Dot : test::Comma;
-        PageSheet sheet(ui, symbols);
+        PageSheet sheet(symbols);
         Convert_Snowtam(sheet, fuzz::text(data + 1, std::min<std::size_t>(size - 1, 8)));
         for (int row = 1; row <= PageSheet::Rows; ++row) {
             ZEL_CHECK(sheet[row].fontSize == 9 || sheet[row].fontSize == 12);

@@ -77,7 +77,8 @@ int main(int argc, char** argv) {
     QCoreApplication::setApplicationName(QStringLiteral("zelFLIGHTAB"));
     QCoreApplication::setApplicationVersion(QString::fromStdString(zel::versionText()));
     std::string error;
-    const auto shared = zel::makeSharedPlatform(options, error);
+    const auto shared =
+        zel::makeSharedPlatform({options.locale, options.symbols, options.folder}, error);
     if (!shared) {
         std::cerr << "error: " << error << '\n';
         return 2;

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // SPDX-FileCopyrightText: 2026 zelFLIGHTAB developers
 #include "app/menu.h"
-#include "app/pages.h"
-#include "snowtam/snowtam.h"
 
 namespace zel {
 
@@ -10,21 +8,21 @@ void Menu::Form_KeyPress(char32_t keyAscii) {
     if (busy() || m_face != Face::Page) {
         return; // on the menu face only released keys act
     }
-    if (m_currentPage == page::Snowtam) {
-        keyPressCode(keyAscii);
+    if (textPage()) {
+        keyPressText(keyAscii);
     } else {
         keyPressNumber(keyAscii);
     }
 }
 
-void Menu::keyPressCode(char32_t keyAscii) {
-    // A runway-state group: eight characters of digits and "/".
+void Menu::keyPressText(char32_t keyAscii) {
     if (keyAscii == key::Backspace) {
-        m_pad.backspaceCode();
-    } else if (keyAscii >= '/' && keyAscii <= '9') {
-        if (!m_pad.typeCodeCharacter(static_cast<char>(keyAscii), 8)) {
-            m_platform.ui.beep();
-        }
+        m_pad.backspaceText();
+        return;
+    }
+    const TextEntry& entry = m_table->text;
+    if (const char32_t c = entry.accept(keyAscii); c != 0 && !m_pad.typeText(c, entry.limit)) {
+        m_platform.ui.beep(); // the report is as long as it can be
     }
 }
 
@@ -63,7 +61,7 @@ void Menu::keyPressNumber(char32_t keyAscii) {
                     m_platform.ui.beep();
                 }
             } catch (const ArithmeticFault& fault) {
-                report(fault);
+                show(fault);
             }
         }
         break;
@@ -78,15 +76,17 @@ void Menu::Form_KeyUp(int keyCode) {
         if (keyCode == key::Escape) {
             m_platform.ui.quit();
         } else if (keyCode >= key::F1 && keyCode <= key::F12) {
-            LabMenu_Click(pageOfFunctionKey(keyCode - key::F1 + 1));
+            if (const PageTable* table = m_pages.byFunctionKey(keyCode - key::F1 + 1)) {
+                LabMenu_Click(table->number);
+            }
         }
         return;
     }
     if (keyCode == key::Enter) {
         if (m_pad.pendingOperator() >= 1) {
             pressOperator(0);
-        } else if (m_currentPage == page::Snowtam) {
-            Convert_Snowtam(m_sheet, m_pad.inputText());
+        } else if (textPage()) {
+            decode();
         }
     } else if (keyCode == key::Escape) {
         LabC_Click();

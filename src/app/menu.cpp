@@ -2,13 +2,6 @@
 // SPDX-FileCopyrightText: 2026 zelFLIGHTAB developers
 #include "app/menu.h"
 
-#include "app/pages.h"
-#include "convert/convert.h"
-#include "flight/airspeed.h"
-#include "flight/fuel.h"
-#include "flight/navigation.h"
-#include "snowtam/snowtam.h"
-
 namespace zel {
 namespace {
 
@@ -17,8 +10,8 @@ constexpr std::string_view AllDigitsTag = "0.##############";
 
 } // namespace
 
-Menu::Menu(Platform& platform) : m_platform(platform) {
-    m_sheet.setTitle(std::string(AppTitle));
+Menu::Menu(Platform& platform, const PageCatalogue& pages)
+    : m_platform(platform), m_pages(pages), m_title(AppTitle) {
     m_digitsCaption = digitsCaptionFor(m_digitsTag);
 }
 
@@ -51,19 +44,21 @@ void Menu::Form_QueryUnload() {
 }
 
 void Menu::LabMenu_Click(int index) {
-    if (busy() || index < 1 || index > PageCount) {
+    const PageTable* table = m_pages.find(index);
+    if (busy() || table == nullptr) {
         return;
     }
-    m_currentPage = index;
-    m_sheet.setTitle(std::string(pageInfo(index).name));
+    m_table = table;
+    m_title = std::string(table->name);
     LoadUnits();
     ResetPage();
     m_panelsVisible = true;
     m_memoryCaptions = {"MRC", "M+", "M-"};
-    if (m_currentPage == page::Snowtam) {
+    if (textPage()) {
+        // A report is typed, not calculated: the calculator's keys go away.
         ResetScratchPad();
         m_panelsVisible = false;
-    } else if (m_currentPage == page::Currency) {
+    } else if (table->rateStore) {
         m_memoryCaptions = {"Rates", "Set", "i"};
     }
     m_face = Face::Page;
@@ -76,13 +71,12 @@ void Menu::LabelMenu_Click() {
 }
 
 void Menu::LoadUnits() {
-    const PageInfo& info = pageInfo(m_currentPage);
     for (int row = 1; row <= PageSheet::Rows; ++row) {
-        const auto i = static_cast<std::size_t>(row - 1);
-        m_sheet.setFactor(row, info.factors[i]);
-        m_sheet[row].unit = std::string(info.units[i]);
+        const RowSpec& spec = m_table->row(row);
+        m_sheet.setFactor(row, spec.factor);
+        m_sheet[row].unit = std::string(spec.unit);
     }
-    if (m_currentPage == page::Currency) {
+    if (m_table->rateStore) {
         m_sheet[PageSheet::Rows].unit = m_currency.ownCurrencyCaption();
         const std::array<float, PageSheet::Rows> rates = m_currency.LoadRates(m_symbols);
         for (int row = 1; row <= PageSheet::Rows; ++row) {
@@ -105,8 +99,8 @@ void Menu::LabValue_Click(int index) {
     if (busy() || m_face != Face::Page || index < 1 || index > PageSheet::Rows) {
         return;
     }
-    if (m_currentPage == page::Snowtam) {
-        Convert_Snowtam(m_sheet, m_pad.inputText());
+    if (textPage()) {
+        decode(); // every cell decodes the typed report
         return;
     }
     if (!m_sheet.exists(index)) {
@@ -119,16 +113,17 @@ void Menu::LabValue_Click(int index) {
     }
     const double shown = m_sheet.value(index);
     const double entry = m_pad.inputValue();
-    if (entry != 0 && entry != shown) {
-        if (m_currentPage == page::FuelUplift && index >= 7) {
-            m_platform.ui.beep(); // the totals are results only
+    // Where a typed zero is a value, typing into a row always gives it; elsewhere
+    // a zero entry, or the row's own value, only selects the row.
+    const bool differs = entry != 0 && entry != shown;
+    if (differs || (m_table->zeroIsValue && m_pad.typed())) {
+        if (m_table->row(index).has(OutputOnly)) {
+            m_platform.ui.beep(); // results only
             return;
         }
         int inputRow = index;
-        try {
-            runConverter(inputRow);
-        } catch (const ArithmeticFault& fault) {
-            report(fault); // the rows written before the fault stay, and are shown
+        if (!convert(inputRow)) {
+            return; // the fault stops the click: the rows and the entry stay as they are
         }
         DisplayTags();
         SetButtonColor(inputRow);
@@ -138,53 +133,44 @@ void Menu::LabValue_Click(int index) {
     }
 }
 
-void Menu::runConverter(int& inputRow) {
-    const double x = m_pad.inputValue();
-    switch (pageInfo(m_currentPage).converter) {
-    case Converter::Standard:
-        Convert_Standard(m_sheet, x, inputRow);
-        break;
-    case Converter::Speed:
-        Convert_Speed(m_sheet, x, inputRow);
-        break;
-    case Converter::Angle:
-        Convert_Angle(m_sheet, x, inputRow);
-        break;
-    case Converter::Temperature:
-        Convert_Temperature(m_sheet, x, inputRow);
-        break;
-    case Converter::FuelUplift:
-        Convert_FuelUplift(m_sheet, x, inputRow);
-        break;
-    case Converter::Endurance:
-        Convert_Endurance(m_sheet, x, inputRow);
-        break;
-    case Converter::Range:
-        Convert_Range(m_sheet, x, inputRow);
-        break;
-    case Converter::MachAS:
-        Convert_MachAS(m_sheet, x, inputRow);
-        break;
-    case Converter::TrackTime:
-        Convert_TrackTime(m_sheet, x, inputRow);
-        break;
-    case Converter::Wind:
-        Convert_WindTriangle(m_sheet, x, inputRow);
-        break;
-    case Converter::WindComp:
-        Convert_WindComp(m_sheet, x, inputRow);
-        break;
-    case Converter::Snowtam:
-        break; // decoded by its own path
+bool Menu::convert(int& inputRow) {
+    try {
+        const Report report = m_table->convert(m_sheet, m_pad.inputValue(), inputRow);
+        show(report);
+        if (report.fault) {
+            show(*report.fault);
+            return false;
+        }
+        return true;
+    } catch (const ArithmeticFault& fault) {
+        show(fault);
+        return false;
     }
 }
 
-void Menu::report(const ArithmeticFault& fault) {
+void Menu::decode() {
+    show(m_table->decode(m_sheet, m_pad.inputText()));
+}
+
+void Menu::show(const Report& report) {
+    switch (report.kind) {
+    case Report::Kind::Beep:
+        m_platform.ui.beep();
+        break;
+    case Report::Kind::Warning:
+        m_platform.ui.message(MessageIcon::Exclamation, m_title, report.text);
+        break;
+    case Report::Kind::None:
+        break;
+    }
+}
+
+void Menu::show(const ArithmeticFault& fault) {
     m_platform.ui.message(MessageIcon::Critical, AppTitle, fault.what());
 }
 
 void Menu::LabOP_Click(int index) {
-    if (!busy() && m_face == Face::Page && m_panelsVisible && index >= 1 &&
+    if (!busy() && m_face == Face::Page && m_panelsVisible && index >= 0 &&
         index <= ScratchPad::Operators) {
         pressOperator(index);
     }
@@ -194,7 +180,7 @@ void Menu::pressOperator(int index) {
     try {
         m_pad.operate(index);
     } catch (const ArithmeticFault& fault) {
-        report(fault);
+        show(fault);
     }
 }
 
@@ -216,7 +202,7 @@ void Menu::LabMEM_Click(int index) {
     if (busy() || m_face != Face::Page || !m_panelsVisible || index < 0 || index > 2) {
         return;
     }
-    if (m_currentPage == page::Currency) {
+    if (m_table->rateStore) {
         if (index == 0) {
             LabC_Click();
             m_currency.DownloadRates();
@@ -226,15 +212,14 @@ void Menu::LabMEM_Click(int index) {
                 LoadUnits();
             }
         } else {
-            m_platform.ui.message(MessageIcon::Information, m_sheet.title(),
-                                  m_currency.sourceNote());
+            m_platform.ui.message(MessageIcon::Information, m_title, m_currency.sourceNote());
         }
         return;
     }
     try {
         m_pad.memoryKey(index);
     } catch (const ArithmeticFault& fault) {
-        report(fault);
+        show(fault);
     }
 }
 

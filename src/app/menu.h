@@ -11,21 +11,29 @@
 // Typing "75" on the Weight page: Form_KeyPress appends each digit to the entry
 // (ScratchPad: InputText/InputValue) and DisplayValue refreshes the display
 // caption. Clicking row 2 ("pound - lbs") calls LabValue_Click(2): the entry is
-// taken into that row and the page's converter (Convert_Standard here) rewrites
-// every row's tag, the full-precision number text of its value. DisplayTags then
-// renders each tag into the caption the user reads, with the chosen number of
-// decimals and the page's own forms (h:mm, "090", "R 11.31"), and clears the
-// entry; SetButtonColor marks row 2 as the input row.
+// taken into that row and the converter that the page's table names
+// (Convert_Standard here) rewrites every row's tag, the full-precision number
+// text of its value, and reports what it refused: nothing, the bell, or a
+// warning, which Menu rings or shows. DisplayTags then renders each tag into
+// the caption the user reads, in the form the page's table gives the row (a
+// number with the chosen decimals, h:mm, "090", "R 11.31"), and clears the
+// entry; SetButtonColor marks row 2 as the input row. A converter that meets a
+// division by zero or an overflow stops there: Menu shows the fault, and the
+// rows and the entry stay as they were left.
 //
 // The front end then reads Menu's state (face, title, display, panels, key
 // captions and highlights, the eight rows) and draws it. Everything the platform
-// does for Menu (message boxes, beep, regional symbols) goes through Platform.
+// does for Menu (message boxes, beep, regional symbols, files, HTTP) goes through
+// Platform.
+//
+// Where the handlers live: menu.cpp has the window's and the controls' events
+// and the page switch, keyboard.cpp Form_KeyPress and Form_KeyUp, rowrender.cpp
+// DisplayTags.
 
-#include "app/pagesheet.h"
-#include "app/platform.h"
+#include "app/catalogue.h"
 #include "currency/modcurrency.h"
-#include "entry/fault.h"
 #include "entry/scratchpad.h"
+#include "host/platform.h"
 
 #include <array>
 #include <string>
@@ -42,16 +50,20 @@ enum class Face { Menu, Page };
 /// The state of the one window and its event handlers.
 class Menu {
   public:
-    explicit Menu(Platform& platform);
+    /// The window with every page of `pages` (the program's own catalogue, or
+    /// one a test makes).
+    explicit Menu(Platform& platform, const PageCatalogue& pages = pageCatalogue());
+    Menu(const Menu&) = delete; // holds references to its own members
+    Menu& operator=(const Menu&) = delete;
 
-    // Window events.
+    // Window events (menu.cpp; the keys in keyboard.cpp).
     void Form_Load();
     void Form_Activate();
     void Form_QueryUnload();
     void Form_KeyPress(char32_t keyAscii);
     void Form_KeyUp(int keyCode);
 
-    // Control events.
+    // Control events (menu.cpp).
     void LabMenu_Click(int index);
     void LabelMenu_Click();
     void LabValue_Click(int index);
@@ -62,8 +74,11 @@ class Menu {
 
     // What the window shows.
     Face face() const { return m_face; }
-    int currentPage() const { return m_currentPage; }
-    const std::string& title() const { return m_sheet.title(); }
+    int currentPage() const { return m_table ? m_table->number : 0; }
+    /// The table of the page shown; nothing before a page is chosen.
+    const PageTable* page() const { return m_table; }
+    const PageCatalogue& pages() const { return m_pages; }
+    const std::string& title() const { return m_title; }
     const std::string& display() const { return m_pad.display(); }
     int displaySize() const { return m_pad.displaySize(); }
     const std::string& digitsCaption() const { return m_digitsCaption; }
@@ -86,22 +101,29 @@ class Menu {
     void LoadUnits();
     void ResetPage();
     void SetButtonColor(int index);
-    void DisplayTags();
-    void ResetScratchPad() { m_pad.reset(m_currentPage == 14); }
-    void runConverter(int& inputRow);
+    void DisplayTags(); // rowrender.cpp
+    void ResetScratchPad() { m_pad.reset(textPage()); }
+    bool textPage() const { return m_table != nullptr && m_table->isText(); }
+    /// Runs the page's converter on the entry; false when a fault stopped it.
+    bool convert(int& inputRow);
+    void decode();
     void pressOperator(int index);
-    void report(const ArithmeticFault& fault);
+    /// Rings the bell or shows the warning a converter reported.
+    void show(const Report& report);
+    void show(const ArithmeticFault& fault);
     std::string digitsCaptionFor(const std::string& tag) const;
-    void keyPressCode(char32_t keyAscii);
+    void keyPressText(char32_t keyAscii);
     void keyPressNumber(char32_t keyAscii);
 
     Platform& m_platform;
+    const PageCatalogue& m_pages;
     ModCurrency m_currency{m_platform};
     Symbols m_symbols;
     ScratchPad m_pad{m_symbols};
-    PageSheet m_sheet{m_platform.ui, m_symbols};
+    PageSheet m_sheet{m_symbols};
+    const PageTable* m_table = nullptr;
+    std::string m_title;
     Face m_face = Face::Menu;
-    int m_currentPage = 0;
     std::string m_digitsTag = "0.00";
     std::string m_digitsCaption;
     bool m_panelsVisible = true;

@@ -3,7 +3,6 @@
 #include "console/console.h"
 
 #include "app/options.h"
-#include "app/pages.h"
 #include "platform/sharedplatform.h"
 
 #include <charconv>
@@ -84,12 +83,13 @@ std::string folded(std::string_view text) {
     return out;
 }
 
-std::optional<int> findPage(std::string_view text) {
-    if (const auto n = number(text, 1, PageCount)) {
+std::optional<int> findPage(const PageCatalogue& pages, std::string_view text) {
+    if (const auto n = number(text, 1, pages.count()); n && pages.find(*n)) {
         return n;
     }
-    for (int page = 1; page <= PageCount; ++page) {
-        if (!folded(text).empty() && folded(text) == folded(pageInfo(page).name)) {
+    for (int page = 1; page <= pages.count(); ++page) {
+        const PageTable* table = pages.find(page);
+        if (table && !folded(text).empty() && folded(text) == folded(table->name)) {
             return page;
         }
     }
@@ -100,7 +100,7 @@ std::optional<int> findPage(std::string_view text) {
 /// or the whole caption where it has none; exact first, then in any case.
 std::variant<int, std::string> findRow(const Menu& menu, std::string_view text) {
     if (const auto n = number(text, 1, PageSheet::Rows)) {
-        if (menu.row(*n).unit.empty() && menu.currentPage() != page::Snowtam) {
+        if (menu.row(*n).unit.empty() && !menu.page()->isText()) {
             return "row " + std::to_string(*n) + " is not used on " + menu.title();
         }
         return *n;
@@ -132,19 +132,20 @@ std::variant<int, std::string> findRow(const Menu& menu, std::string_view text) 
 
 std::optional<std::string> convertOnce(Menu& menu, std::string_view page, std::string_view row,
                                        std::string_view value) {
-    const auto pageNumber = findPage(page);
+    const auto pageNumber = findPage(menu.pages(), page);
     if (!pageNumber) {
-        return "unknown page: " + std::string(page) + " (a number from 1 to 18, or a page name)";
+        return "unknown page: " + std::string(page) + " (a number from 1 to " +
+               std::to_string(menu.pages().count()) + ", or a page name)";
     }
     menu.LabMenu_Click(*pageNumber);
     const auto rowNumber = findRow(menu, row);
     if (const auto* error = std::get_if<std::string>(&rowNumber)) {
         return *error;
     }
-    const bool snowtam = *pageNumber == page::Snowtam;
+    const bool text = menu.page()->isText();
     const Symbols& symbols = menu.symbols();
     const auto number = readRegional(value, symbols);
-    if (!snowtam && !number) {
+    if (!text && !number) {
         return "not a number: " + std::string(value);
     }
     for (std::size_t at = 0; at < value.size();) {
@@ -154,7 +155,7 @@ std::optional<std::string> convertOnce(Menu& menu, std::string_view page, std::s
             menu.Form_KeyPress(c);
         }
     }
-    if (!snowtam && menu.scratchPad().inputValue() != *number) {
+    if (!text && menu.scratchPad().inputValue() != *number) {
         return "cannot type " + std::string(value) + ": write it with digits and " +
                symbols.decimal + " only";
     }
@@ -266,7 +267,7 @@ std::optional<std::string> ConsoleSession::run(const std::string& rawLine) {
     };
 
     if (command == "page") {
-        return needs(1, 18, [&](int n) { m_menu.LabMenu_Click(n); });
+        return needs(1, m_menu.pages().count(), [&](int n) { m_menu.LabMenu_Click(n); });
     }
     if (command == "row") {
         return needs(1, 8, [&](int n) { m_menu.LabValue_Click(n); });

@@ -6,7 +6,7 @@
 
 namespace zel {
 
-void Convert_Angle(PageSheet& page, double x, int& inputRow) {
+Report Convert_Angle(PageSheet& page, double x, int& inputRow) {
     const double pi = Pi;
     // To degrees in row 1 first; the π-multiple row uses the exact 180.
     switch (inputRow) {
@@ -36,6 +36,7 @@ void Convert_Angle(PageSheet& page, double x, int& inputRow) {
     page.setValue(4, page.value(1) / 360 * 400);
     page.setValue(5, page.value(1) / 180);
     page.setValue(6, std::tan(page.value(1) / 180 * pi) * 100);
+    return {};
 }
 
 } // namespace zel

@@ -38,14 +38,12 @@ constexpr std::array<Band, 12> Bands{{{1, "0", "calm"},
 
 } // namespace
 
-void Convert_Speed(PageSheet& page, double x, int& inputRow) {
+Report Convert_Speed(PageSheet& page, double x, int& inputRow) {
     if (inputRow == ForceRow && !(x >= 1 && x <= 12)) {
-        page.warn("Invalid input (range 1 to 12)");
-        return;
+        return Report::warning("Invalid input (range 1 to 12)");
     }
     if (inputRow == DescriptionRow || (inputRow < ForceRow && x < 0)) {
-        page.beep();
-        return;
+        return Report::beep();
     }
     if (inputRow == ForceRow) {
         // A fractional force takes its whole part: 4.5 is force 4.
@@ -61,7 +59,7 @@ void Convert_Speed(PageSheet& page, double x, int& inputRow) {
     }
     const double k = std::floor(page.value(1) + 0.5);
     if (k < 0) {
-        return;
+        return {};
     }
     std::string_view force = "12";
     std::string_view description = "hurricane";
@@ -74,6 +72,7 @@ void Convert_Speed(PageSheet& page, double x, int& inputRow) {
     }
     page[ForceRow].caption = std::string(force);
     page[DescriptionRow].caption = std::string(description);
+    return {};
 }
 
 } // namespace zel

@@ -2,22 +2,11 @@
 // SPDX-FileCopyrightText: 2026 zelFLIGHTAB developers
 #include "convert/convert.h"
 
-#include <cmath>
-
 namespace zel {
 
-double multiplier(double factor) {
-    if (factor == 0) {
-        return 1; // 0 ^ 0
-    }
-    // A negative factor says one unit of the row is |f| base units.
-    return factor > 0 ? factor : 1 / -factor;
-}
-
-void Convert_Standard(PageSheet& page, double inputValue, int& inputRow) {
+Report Convert_Standard(PageSheet& page, double inputValue, int& inputRow) {
     if (inputValue < 0) {
-        page.beep(); // negative quantities are refused, money included
-        return;
+        return Report::beep(); // negative quantities are refused, money included
     }
     const double base = inputValue / multiplier(page.factor(inputRow));
     for (int row = 1; row <= PageSheet::Rows; ++row) {
@@ -26,6 +15,7 @@ void Convert_Standard(PageSheet& page, double inputValue, int& inputRow) {
             page.setValue(row, multiplier(page.factor(row)) * base);
         }
     }
+    return {};
 }
 
 } // namespace zel

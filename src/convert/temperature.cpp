@@ -4,7 +4,7 @@
 
 namespace zel {
 
-void Convert_Temperature(PageSheet& page, double x, int& inputRow) {
+Report Convert_Temperature(PageSheet& page, double x, int& inputRow) {
     // The typed value goes to Celsius in row 1 first; every row is then derived
     // from what row 1 holds as text, so all rows agree with the row shown.
     switch (inputRow) {
@@ -17,8 +17,7 @@ void Convert_Temperature(PageSheet& page, double x, int& inputRow) {
     case 3:
     case 4:
         if (x < 0) {
-            page.beep(); // absolute scales have no negative values
-            return;
+            return Report::beep(); // absolute scales have no negative values
         }
         page.setValue(1, inputRow == 3 ? x - 273.15 : (x - 491.67) * 5 / 9);
         break;
@@ -28,6 +27,7 @@ void Convert_Temperature(PageSheet& page, double x, int& inputRow) {
     page.setValue(2, page.value(1) * 9 / 5 + 32);
     page.setValue(3, page.value(1) + 273.15);
     page.setValue(4, page.value(1) * 9 / 5 + 491.67);
+    return {};
 }
 
 } // namespace zel

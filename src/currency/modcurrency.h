@@ -2,8 +2,8 @@
 // SPDX-FileCopyrightText: 2026 zelFLIGHTAB developers
 #pragma once
 
-#include "app/platform.h"
 #include "entry/numbertext.h"
+#include "host/platform.h"
 
 #include <array>
 #include <optional>

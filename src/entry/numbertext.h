@@ -18,6 +18,9 @@ struct Symbols {
 /// Number of characters (not bytes) of a UTF-8 text: what a caption's length means.
 std::size_t charCount(std::string_view text);
 
+/// Appends one character to a UTF-8 text.
+void appendUtf8(std::string& text, char32_t c);
+
 /// The general number-to-text conversion of a double, as value tags hold it:
 /// at most 15 significant digits, trailing zeros dropped, plain notation while
 /// the decimal exponent lies in -4..14, otherwise "1.5E-07" / "1E+20"; no grouping.

@@ -33,6 +33,7 @@ void ScratchPad::reset(bool textPage) {
     m_display = textPage ? "" : "0" + m_symbols.decimal;
     m_inputValue = 0;
     m_inputText = textPage ? "" : "0";
+    m_typed = false;
     m_displaySize = 18;
     if (m_newOperand) {
         m_newOperand = false;
@@ -76,6 +77,7 @@ bool ScratchPad::typeDigit(int digit) {
         m_inputValue = finite(sign * (std::fabs(m_inputValue) * 10 + digit));
         m_inputText = generalText(m_inputValue, m_symbols);
     }
+    m_typed = true;
     displayValue();
     return true;
 }
@@ -99,21 +101,22 @@ void ScratchPad::backspace() {
 }
 
 void ScratchPad::select(const std::string& text) {
+    m_typed = false;
     m_inputText = text;
     m_inputValue = textValue(text, m_symbols);
     displayValue();
 }
 
-bool ScratchPad::typeCodeCharacter(char c, std::size_t limit) {
-    if (m_inputText.size() >= limit) {
+bool ScratchPad::typeText(char32_t c, std::size_t limit) {
+    if (charCount(m_inputText) >= limit) {
         return false;
     }
-    m_inputText += c;
+    appendUtf8(m_inputText, c);
     m_display = m_inputText;
     return true;
 }
 
-void ScratchPad::backspaceCode() {
+void ScratchPad::backspaceText() {
     if (!m_inputText.empty()) {
         dropLastCharacter(m_inputText);
         m_display = m_inputText;

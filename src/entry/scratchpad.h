@@ -22,6 +22,9 @@ class ScratchPad {
 
     const std::string& inputText() const { return m_inputText; }
     double inputValue() const { return m_inputValue; }
+    /// Whether a digit was typed since the entry was last cleared or loaded from
+    /// a row: a typed 0 is then a value, not an empty entry.
+    bool typed() const { return m_typed; }
     const std::string& display() const { return m_display; }
     int displaySize() const { return m_displaySize; }
     double accumulator() const { return m_accumulator; }
@@ -47,9 +50,10 @@ class ScratchPad {
     /// The entry becomes a stored row value, as text and number.
     void select(const std::string& text);
 
-    /// A character of a code entry (digits and "/"), at most `limit` characters.
-    bool typeCodeCharacter(char c, std::size_t limit);
-    void backspaceCode();
+    /// A character of a text entry (a runway report), at most `limit`
+    /// characters. False when the entry is full (the caller beeps).
+    bool typeText(char32_t c, std::size_t limit);
+    void backspaceText();
 
     /// `LabOP_Click`. Throws ArithmeticFault, having changed nothing, when the
     /// pending operation divides by zero or leaves the double range.
@@ -63,6 +67,7 @@ class ScratchPad {
     const Symbols& m_symbols;
     std::string m_inputText = "0";
     double m_inputValue = 0;
+    bool m_typed = false;
     std::string m_display;
     int m_displaySize = 18;
     double m_accumulator = 0;

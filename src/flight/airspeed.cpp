@@ -128,10 +128,9 @@ double machFromImpactPressure(double ratio) {
     return (low + high) / 2;
 }
 
-void Convert_MachAS(PageSheet& page, double x, int& inputRow) {
+Report Convert_MachAS(PageSheet& page, double x, int& inputRow) {
     if (inputRow != Sat && inputRow != Tat && x < 0) {
-        page.beep();
-        return;
+        return Report::beep();
     }
     const PageSheet::Snapshot before = page.snapshot();
     for (int row : {Mach, Cas, Eas, Tas}) {
@@ -154,14 +153,13 @@ void Convert_MachAS(PageSheet& page, double x, int& inputRow) {
     }
     if (page.value(Mach) == 0 && page.value(Cas) == 0 && page.value(Eas) == 0 &&
         page.value(Tas) == 0) {
-        return; // nothing more until a speed is given
+        return {}; // nothing more until a speed is given
     }
 
     const auto s = solve(page);
     if (!s) {
         page.restore(before);
-        page.beep();
-        return;
+        return Report::beep();
     }
     const double a0 = SeaLevelSoundSpeed;
     const double delta = pressureRatio(page.value(Altitude));
@@ -170,8 +168,7 @@ void Convert_MachAS(PageSheet& page, double x, int& inputRow) {
     const double tas = a0 * s->mach * std::sqrt(kelvin(s->sat) / 288);
     if (!std::isfinite(cas) || !std::isfinite(eas) || !std::isfinite(tas)) {
         page.restore(before);
-        page.beep();
-        return;
+        return Report::beep();
     }
     if (s->satComputed) {
         page.setValue(Sat, s->sat);
@@ -185,6 +182,7 @@ void Convert_MachAS(PageSheet& page, double x, int& inputRow) {
     page.setValue(Cas, cas);
     page.setValue(Eas, eas);
     page.setValue(Tas, tas);
+    return {};
 }
 
 } // namespace zel

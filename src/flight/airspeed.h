@@ -2,7 +2,7 @@
 // SPDX-FileCopyrightText: 2026 zelFLIGHTAB developers
 #pragma once
 
-#include "app/pagesheet.h"
+#include "page/pagetable.h"
 
 namespace zel {
 
@@ -21,6 +21,6 @@ double impactPressureRatio(double mach);
 double machFromImpactPressure(double ratio);
 
 /// Mach - AS page: altitude, Mach, SAT, CAS, TAT, EAS, recovery factor, TAS.
-void Convert_MachAS(PageSheet& page, double inputValue, int& inputRow);
+Report Convert_MachAS(PageSheet& page, double inputValue, int& inputRow);
 
 } // namespace zel

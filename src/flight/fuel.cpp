@@ -77,10 +77,9 @@ bool solveQuantityOrFlow(PageSheet& page, FlowOf flowOf, QuantityOf quantityOf) 
 
 } // namespace
 
-void Convert_FuelUplift(PageSheet& page, double x, int& inputRow) {
+Report Convert_FuelUplift(PageSheet& page, double x, int& inputRow) {
     if (x < 0) {
-        page.beep();
-        return;
+        return Report::beep();
     }
     switch (inputRow) {
     case 1:
@@ -112,21 +111,30 @@ void Convert_FuelUplift(PageSheet& page, double x, int& inputRow) {
     }
     // Jet fuel weighs about 0.8 kg/L (6.7 lbs/USG); anything heavier than water
     // is almost certainly a unit mix-up, so it is flagged at every entry.
+    Report report;
     if (page.value(5) > 1.0 || page.value(6) > 10.0) {
-        page.warn("Verify Fuel Density !");
+        report = Report::warning("Verify Fuel Density !");
     }
     if (page.value(3) == 0 || page.value(5) == 0) {
-        return;
+        return report;
     }
-    // Each total in its own unit system, from its own rows.
-    page.setValue(7, page.value(3) * page.value(5) + page.value(1));
-    page.setValue(8, page.value(4) * page.value(6) + page.value(2));
+    // Each total in its own unit system, from its own rows; the warning is read
+    // before a total that overflows is reported.
+    try {
+        page.setValue(7, page.value(3) * page.value(5) + page.value(1));
+        page.setValue(8, page.value(4) * page.value(6) + page.value(2));
+    } catch (const ArithmeticFault& fault) {
+        if (report.kind == Report::Kind::None) {
+            throw;
+        }
+        report.fault = fault;
+    }
+    return report;
 }
 
-void Convert_Endurance(PageSheet& page, double x, int& inputRow) {
+Report Convert_Endurance(PageSheet& page, double x, int& inputRow) {
     if (x < 0) {
-        page.beep();
-        return;
+        return Report::beep();
     }
     if (inputRow == 7) {
         page.setValue(7, x);
@@ -140,24 +148,24 @@ void Convert_Endurance(PageSheet& page, double x, int& inputRow) {
     if (const int quantity = completePair(page)) {
         page.setValue(7, page.value(quantity) / page.value(quantity + 1));
         page.setValue(8, page.value(7) * 60);
-        return;
+        return {};
     }
     const double hours = page.value(7);
     if (hours != 0 && solveQuantityOrFlow(
                           page, [&](double quantity) { return quantity / hours; },
                           [&](double flow) { return flow * hours; })) {
-        return;
+        return {};
     }
     if (inputRow <= 6) {
         page.clear(7);
         page.clear(8);
     }
+    return {};
 }
 
-void Convert_Range(PageSheet& page, double x, int& inputRow) {
+Report Convert_Range(PageSheet& page, double x, int& inputRow) {
     if (x < 0) {
-        page.beep();
-        return;
+        return Report::beep();
     }
     if (inputRow == 8) {
         page.setValue(8, x);
@@ -171,24 +179,25 @@ void Convert_Range(PageSheet& page, double x, int& inputRow) {
         page.clear(8);
     }
     if (page.value(inputRow) == 0) {
-        return;
+        return {};
     }
     const double groundSpeed = page.value(7);
     if (const int quantity = completePair(page)) {
         page.setValue(8, page.value(quantity) / page.value(quantity + 1) * groundSpeed);
-        return;
+        return {};
     }
     const double range = page.value(8);
     // A known flow with a ground speed of 0 never reaches the range: no answer.
     if (range != 0 && solveQuantityOrFlow(
                           page, [&](double quantity) { return quantity / range * groundSpeed; },
                           [&](double flow) { return divide(flow * range, groundSpeed); })) {
-        return;
+        return {};
     }
     if (inputRow <= 6) {
         page.clear(7);
         page.clear(8);
     }
+    return {};
 }
 
 } // namespace zel

@@ -2,7 +2,7 @@
 // SPDX-FileCopyrightText: 2026 zelFLIGHTAB developers
 #pragma once
 
-#include "app/pagesheet.h"
+#include "page/pagetable.h"
 
 namespace zel {
 
@@ -13,10 +13,10 @@ inline constexpr double PoundsPerKilogram = 2.205;
 inline constexpr double LitresPerUsGallon = 3.78541178;
 
 /// Fuel Uplift: remaining fuel plus uplift times density, in kg and in lbs.
-void Convert_FuelUplift(PageSheet& page, double inputValue, int& inputRow);
+Report Convert_FuelUplift(PageSheet& page, double inputValue, int& inputRow);
 /// Endurance: quantity / flow in hours and minutes, or either from the endurance.
-void Convert_Endurance(PageSheet& page, double inputValue, int& inputRow);
+Report Convert_Endurance(PageSheet& page, double inputValue, int& inputRow);
 /// Fuel Range: quantity / flow x ground speed, or quantity or flow from a range.
-void Convert_Range(PageSheet& page, double inputValue, int& inputRow);
+Report Convert_Range(PageSheet& page, double inputValue, int& inputRow);
 
 } // namespace zel

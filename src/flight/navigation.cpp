@@ -2,7 +2,6 @@
 // SPDX-FileCopyrightText: 2026 zelFLIGHTAB developers
 #include "flight/navigation.h"
 
-#include "convert/convert.h"
 #include "entry/fault.h"
 
 #include <cmath>
@@ -157,17 +156,15 @@ bool WindT_Calculate(WindT& windT) {
     return true;
 }
 
-void Convert_WindTriangle(PageSheet& page, double x, int& inputRow) {
+Report Convert_WindTriangle(PageSheet& page, double x, int& inputRow) {
     page.setValue(7, Unknown); // drift and wind component are always recomputed
     page.setValue(8, Unknown);
     if (inputRow == 1 || inputRow == 3 || inputRow == 5) {
         if (!isDirection(x)) {
-            page.warn(InvalidDirection);
-            return;
+            return Report::warning(InvalidDirection);
         }
     } else if (inputRow == 7 || inputRow == 8 || x < 0) {
-        page.beep();
-        return;
+        return Report::beep();
     }
     page.setValue(inputRow, x);
     WindT windT{};
@@ -175,25 +172,24 @@ void Convert_WindTriangle(PageSheet& page, double x, int& inputRow) {
         windT[static_cast<std::size_t>(row)] = given(page, row);
     }
     if (!WindT_Calculate(windT)) {
-        return;
+        return {};
     }
     for (int row = 1; row <= 8; ++row) {
         page.setSingle(row, windT[static_cast<std::size_t>(row)]);
     }
+    return {};
 }
 
-void Convert_TrackTime(PageSheet& page, double x, int& inputRow) {
+Report Convert_TrackTime(PageSheet& page, double x, int& inputRow) {
     if (x < 0) {
-        page.beep();
-        return;
+        return Report::beep();
     }
     if (inputRow == 1) {
         page.setValue(2, x / KilometresPerNauticalMile);
     } else if (inputRow == 2) {
         page.setValue(1, x * KilometresPerNauticalMile);
     } else if ((inputRow == 5 || inputRow == 7) && !isDirection(x)) {
-        page.warn(InvalidDirection);
-        return;
+        return Report::warning(InvalidDirection);
     }
     page.setValue(inputRow, x);
 
@@ -226,19 +222,18 @@ void Convert_TrackTime(PageSheet& page, double x, int& inputRow) {
         page.setValue(2, nauticalMiles);
         page.setValue(1, nauticalMiles * KilometresPerNauticalMile);
     }
+    return {};
 }
 
-void Convert_WindComp(PageSheet& page, double x, int& inputRow) {
+Report Convert_WindComp(PageSheet& page, double x, int& inputRow) {
     page.setValue(6, Unknown);
     page.setValue(8, Unknown);
     if (inputRow == 1 || inputRow == 3) {
         if (!isDirection(x)) {
-            page.warn(InvalidDirection);
-            return;
+            return Report::warning(InvalidDirection);
         }
     } else if (inputRow == 6 || inputRow == 8 || x < 0) {
-        page.beep();
-        return;
+        return Report::beep();
     }
     page.setValue(inputRow, x);
     const double windDirection = page.value(1);
@@ -250,6 +245,7 @@ void Convert_WindComp(PageSheet& page, double x, int& inputRow) {
         page.setValue(6, -windVelocity * std::cos(alpha));
         page.setValue(8, -windVelocity * std::sin(alpha));
     }
+    return {};
 }
 
 } // namespace zel

@@ -2,7 +2,7 @@
 // SPDX-FileCopyrightText: 2026 zelFLIGHTAB developers
 #pragma once
 
-#include "app/pagesheet.h"
+#include "page/pagetable.h"
 
 #include <array>
 #include <optional>
@@ -26,9 +26,9 @@ std::optional<double> ArcSin(double x);
 /// too little is known or the triangle is impossible.
 bool WindT_Calculate(WindT& windT);
 
-void Convert_WindTriangle(PageSheet& page, double inputValue, int& inputRow);
-void Convert_TrackTime(PageSheet& page, double inputValue, int& inputRow);
+Report Convert_WindTriangle(PageSheet& page, double inputValue, int& inputRow);
+Report Convert_TrackTime(PageSheet& page, double inputValue, int& inputRow);
 /// Axis (- head, + tail) and cross wind (+ from the right) for a runway.
-void Convert_WindComp(PageSheet& page, double inputValue, int& inputRow);
+Report Convert_WindComp(PageSheet& page, double inputValue, int& inputRow);
 
 } // namespace zel

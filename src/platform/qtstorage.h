@@ -2,7 +2,7 @@
 // SPDX-FileCopyrightText: 2026 zelFLIGHTAB developers
 #pragma once
 
-#include "app/platform.h"
+#include "host/platform.h"
 
 #include <optional>
 #include <string>

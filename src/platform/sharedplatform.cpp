@@ -4,7 +4,8 @@
 
 namespace zel {
 
-std::unique_ptr<SharedPlatform> makeSharedPlatform(const Options& options, std::string& error) {
+std::unique_ptr<SharedPlatform> makeSharedPlatform(const PlatformChoice& options,
+                                                   std::string& error) {
     std::optional<Symbols> replacement;
     if (options.symbols && !(replacement = symbolsFromPair(*options.symbols))) {
         error = "--symbols takes two characters, the decimal then the grouping symbol";

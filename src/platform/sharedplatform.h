@@ -2,12 +2,13 @@
 // SPDX-FileCopyrightText: 2026 zelFLIGHTAB developers
 #pragma once
 
-#include "app/options.h"
 #include "platform/qthttp.h"
 #include "platform/qtregional.h"
 #include "platform/qtstorage.h"
 
 #include <memory>
+#include <optional>
+#include <string>
 
 namespace zel {
 
@@ -25,9 +26,17 @@ struct SharedPlatform {
     Platform with(Interaction& ui) { return {ui, regional, storage, network, clock}; }
 };
 
+/// What the command line may ask of the shared pieces.
+struct PlatformChoice {
+    std::optional<std::string> locale;  ///< QLocale name: en_US, de_DE
+    std::optional<std::string> symbols; ///< decimal then grouping symbol
+    std::optional<std::string> folder;  ///< the program folder
+};
+
 /// The shared pieces as the command line asks for them (--locale, --symbols,
 /// --folder); nothing, with the reason in `error`, when it asks for what
 /// cannot be. Needs a Qt application object.
-std::unique_ptr<SharedPlatform> makeSharedPlatform(const Options& options, std::string& error);
+std::unique_ptr<SharedPlatform> makeSharedPlatform(const PlatformChoice& choice,
+                                                   std::string& error);
 
 } // namespace zel

@@ -98,11 +98,10 @@ Braking braking(double bb, const Symbols& symbols) {
 
 } // namespace
 
-void Convert_Snowtam(PageSheet& page, std::string_view group) {
+Report Convert_Snowtam(PageSheet& page, std::string_view group) {
     page.reset();
     if (charCount(group) != 8) {
-        page.warn("Snowtam must be 8 digits...");
-        return;
+        return Report::warning("Snowtam must be 8 digits...");
     }
     const Symbols& symbols = page.symbols();
 
@@ -133,6 +132,37 @@ void Convert_Snowtam(PageSheet& page, std::string_view group) {
     for (int row = 1; row <= PageSheet::Rows; ++row) {
         page[row].fontSize = charCount(page[row].caption) >= 14 ? 9 : 12;
     }
+    return {};
+}
+
+namespace {
+
+/// The group is typed as digits and "/" (a field not reported).
+char32_t groupCharacter(char32_t c) {
+    return c >= '/' && c <= '9' ? c : 0;
+}
+
+constexpr std::array<PageTable, 1> Pages{{
+    {.number = 14,
+     .name = "Snowtam",
+     .rows = {{{"Runway", 0, Form::Text},
+               {"Type of Deposit", 0, Form::Text},
+               {},
+               {"Extent of Deposit", 0, Form::Text},
+               {},
+               {"Depth of Deposit", 0, Form::Text},
+               {"Brake Coefficient", 0, Form::Text},
+               {"Braking Action", 0, Form::Text}}},
+     .decode = Convert_Snowtam,
+     .text = {8, groupCharacter},
+     .functionKey = 11,
+     .keyCaption = "F11"},
+}};
+
+} // namespace
+
+std::span<const PageTable> snowtamPages() {
+    return Pages;
 }
 
 } // namespace zel

@@ -2,7 +2,7 @@
 // SPDX-FileCopyrightText: 2026 zelFLIGHTAB developers
 #include "ui/menuwindow.h"
 
-#include "app/pages.h"
+#include "app/catalogue.h"
 #include "ui/qtinteraction.h"
 
 #include <QApplication>
@@ -71,13 +71,17 @@ const ZelFrame::Style MenuButton{QColor(0xff, 0xff, 0xff),
                                  true};
 const ZelFrame::Style Cell{Qt::transparent, Qt::transparent, {}, RowColour, 0, false};
 
-constexpr std::array<const char*, PageCount + 1> IconNames{
+constexpr std::array<const char*, 19> IconNames{
     "app",         "weight",    "fluid", "surface",    "speed",     "distance",  "angle",
     "temperature", "pressure",  "power", "fuelUplift", "endurance", "fuelRange", "machAs",
     "snowtam",     "trackTime", "wind",  "windComp",   "currency"};
 
 QString text(const std::string& s) {
     return QString::fromStdString(s);
+}
+
+QString text(std::string_view s) {
+    return QString::fromUtf8(s.data(), static_cast<qsizetype>(s.size()));
 }
 
 ZelFrame* frame(const ZelFrame::Style& style, QWidget* parent, QRect geometry,
@@ -133,17 +137,19 @@ MenuWindow::MenuWindow(Menu& menu, QtInteraction* interaction, QWidget* parent)
 
 void MenuWindow::buildMenuFace() {
     // Three columns by six lines, in page order.
-    for (int page = 1; page <= PageCount; ++page) {
+    const PageCatalogue& pages = pageCatalogue();
+    for (int page = 1; page <= pages.count(); ++page) {
+        const PageTable* table = pages.find(page);
+        if (table == nullptr) {
+            continue;
+        }
         const int column = (page - 1) % 3;
         const int line = (page - 1) / 3;
         auto* button = frame(PageButton, this, QRect(8 + column * 94, 44 + line * 61, 90, 57),
-                             QString::fromUtf8(pageInfo(page).name.data(),
-                                               static_cast<qsizetype>(pageInfo(page).name.size())));
+                             text(table->name));
         button->setPointSize(8);
         button->setIcon(pageIcon(page, 22, PageButtonText, devicePixelRatioF()));
-        button->setCornerCaption(
-            QString::fromUtf8(functionKeyCaption(page).data(),
-                              static_cast<qsizetype>(functionKeyCaption(page).size())));
+        button->setCornerCaption(text(table->keyCaption));
         button->setCursor(Qt::PointingHandCursor);
         connect(button, &ZelFrame::clicked, this,
                 [this, page] { act([this, page] { m_menu.LabMenu_Click(page); }); });
@@ -248,8 +254,10 @@ template <typename Handler> void MenuWindow::act(Handler handler) {
 void MenuWindow::render() {
     const bool page = m_menu.face() == Face::Page;
     m_pageFace->setVisible(page);
-    for (int p = 1; p <= PageCount; ++p) {
-        m_pageButtons[static_cast<std::size_t>(p)]->setVisible(!page);
+    for (ZelFrame* button : m_pageButtons) {
+        if (button != nullptr) {
+            button->setVisible(!page);
+        }
     }
     m_menuButton->setVisible(page);
     const int iconPage = page ? m_menu.currentPage() : 0;

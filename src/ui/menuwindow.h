@@ -70,7 +70,7 @@ class MenuWindow : public QWidget {
     QWidget* m_memoryPanel = nullptr;
     QWidget* m_operatorPanel = nullptr;
     ZelFrame* m_divideKey = nullptr;
-    std::array<ZelFrame*, 19> m_pageButtons{};
+    std::array<ZelFrame*, 25> m_pageButtons{};
     std::array<ZelFrame*, 9> m_values{};
     std::array<ZelFrame*, 9> m_units{};
     std::array<ZelFrame*, 4> m_operatorKeys{}; // + - x; the divide key is one face for two

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // SPDX-FileCopyrightText: 2026 zelFLIGHTAB developers
-#include "app/pages.h"
+#include "app/catalogue.h"
 #include "fakeplatform.h"
 #include "flight/airspeed.h"
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // SPDX-FileCopyrightText: 2026 zelFLIGHTAB developers
-#include "app/pages.h"
+#include "app/catalogue.h"
 #include "convert/convert.h"
 #include "fakeplatform.h"
 
@@ -98,8 +98,7 @@ TEST(Angle, UsesTheSinglePrecisionPi) {
 }
 
 TEST(Angle, PiInRadiansIsExactly180Degrees) {
-    FakeInteraction ui;
-    PageSheet page(ui, Dot);
+    PageSheet page(Dot);
     int row = 2;
     Convert_Angle(page, 3.1415927410125732, row);
     EXPECT_EQ(page[1].tag, "180");

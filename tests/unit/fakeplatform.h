@@ -3,7 +3,7 @@
 #pragma once
 
 #include "app/menu.h"
-#include "app/platform.h"
+#include "host/platform.h"
 
 #include <algorithm>
 #include <deque>
@@ -13,6 +13,14 @@
 #include <vector>
 
 namespace zel::test {
+
+/// The pages by their number in the menu.
+namespace page {
+inline constexpr int Weight = 1, Fluid = 2, Surface = 3, Speed = 4, Distance = 5, Angle = 6,
+                     Temperature = 7, Pressure = 8, Power = 9, FuelUplift = 10, Endurance = 11,
+                     FuelRange = 12, MachAS = 13, Snowtam = 14, TrackTime = 15, Wind = 16,
+                     WindComp = 17, Currency = 18;
+}
 
 /// Records what the user would see; answers questions and input boxes from queues.
 class FakeInteraction : public Interaction {

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // SPDX-FileCopyrightText: 2026 zelFLIGHTAB developers
-#include "app/pages.h"
+#include "app/catalogue.h"
 #include "fakeplatform.h"
 
 #include <gtest/gtest.h>
@@ -138,14 +138,16 @@ TEST(FuelRange, SolvesRangeInTheOrderOfEntry) {
     }
 }
 
-TEST(FuelRange, ARangeWithAFlowAndNoGroundSpeedIsADivisionByZero) {
+TEST(FuelRange, ADivisionByZeroStopsTheClickWhereItArose) {
     Calculator calc(Dot, page::FuelRange);
-    calc.enter(2, "200");
-    calc.enter(8, "300");
+    calc.enter(4, "30");
+    calc.enter(8, "300"); // a flow and a range, but no ground speed
     EXPECT_EQ(calc.lastEvent(), "critical zelFLIGHTAB: Division by zero");
-    EXPECT_EQ(calc.tag(8), "300"); // written before the fault, and kept
-    EXPECT_EQ(calc.tag(1), "0");
-    EXPECT_EQ(calc.caption(8), "300.00");
+    EXPECT_EQ(calc.tag(8), "300");  // written before the fault, and kept
+    EXPECT_EQ(calc.caption(8), ""); // not drawn
+    EXPECT_EQ(calc.menu.display(), "300.");
+    EXPECT_TRUE(calc.menu.row(4).input);
+    EXPECT_FALSE(calc.menu.row(8).input);
 }
 
 TEST(FuelPages, RefuseNegativeValues) {

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // SPDX-FileCopyrightText: 2026 zelFLIGHTAB developers
-#include "app/pages.h"
+#include "app/catalogue.h"
 #include "fakeplatform.h"
 
 #include <gtest/gtest.h>
@@ -44,8 +44,8 @@ TEST(Window, FunctionKeysOpenPagesFromTheMenuFace) {
         EXPECT_EQ(calc.menu.currentPage(), page) << "F" << f;
         EXPECT_EQ(calc.menu.face(), Face::Page);
     }
-    EXPECT_EQ(functionKeyCaption(18), "F12"); // drawn on Currency, opens Wind Comp
-    EXPECT_EQ(functionKeyCaption(17), "");
+    EXPECT_EQ(pageCatalogue().page(18).keyCaption, "F12"); // drawn on Currency, opens Wind Comp
+    EXPECT_EQ(pageCatalogue().page(17).keyCaption, "");
 }
 
 TEST(Window, EscapeEndsOnTheMenuAndClearsOnAPage) {

@@ -3,7 +3,7 @@
 // Every page, every ordered pair of rows, every pair of hard entries: nothing
 // crashes, nothing non-finite is stored or shown, and a click that changes
 // nothing says so with a beep or a message.
-#include "app/pages.h"
+#include "app/catalogue.h"
 #include "fakeplatform.h"
 
 #include <gtest/gtest.h>
@@ -80,11 +80,12 @@ void expectFinite(const Calculator& calc, const std::string& where) {
 }
 
 std::string where(int page, const Entry& entry, int row) {
-    return std::string(pageInfo(page).name) + ": " + entry.name + " on row " + std::to_string(row);
+    return std::string(pageCatalogue().page(page).name) + ": " + entry.name + " on row " +
+           std::to_string(row);
 }
 
 TEST(Sweep, EveryEntryOnAFreshPageConvertsOrSaysWhyNot) {
-    for (int page = 1; page <= PageCount; ++page) {
+    for (int page = 1; page <= pageCatalogue().count(); ++page) {
         for (int row = 1; row <= PageSheet::Rows; ++row) {
             for (const Entry& entry : Entries) {
                 Calculator calc(Dot, page);
@@ -104,7 +105,7 @@ TEST(Sweep, EveryEntryOnAFreshPageConvertsOrSaysWhyNot) {
 }
 
 TEST(Sweep, EveryPairOfEntriesOnEveryPairOfRows) {
-    for (int page = 1; page <= PageCount; ++page) {
+    for (int page = 1; page <= pageCatalogue().count(); ++page) {
         for (int first = 1; first <= PageSheet::Rows; ++first) {
             for (int second = 1; second <= PageSheet::Rows; ++second) {
                 for (const Entry& a : Entries) {

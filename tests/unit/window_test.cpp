@@ -2,7 +2,7 @@
 // SPDX-FileCopyrightText: 2026 zelFLIGHTAB developers
 // The real window on the offscreen platform: clicks and keys sent to its
 // widgets reach the calculator, and the widgets then show what it holds.
-#include "app/pages.h"
+#include "app/catalogue.h"
 #include "fakeplatform.h"
 #include "ui/menuwindow.h"
 

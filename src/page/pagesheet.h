@@ -2,12 +2,11 @@
 // SPDX-FileCopyrightText: 2026 zelFLIGHTAB developers
 #pragma once
 
-#include "app/platform.h"
 #include "entry/numbertext.h"
 
 #include <array>
 #include <string>
-#include <string_view>
+#include <vector>
 
 namespace zel {
 
@@ -19,17 +18,19 @@ struct RowCell {
     std::string caption;
     std::string tag = "0";
     int fontSize = 12;
-    bool input = false;    ///< drawn in the input colour
+    bool input = false;    ///< the input row: drawn in the input colour
     bool computed = false; ///< the value was derived, not typed (Mach - AS temperatures)
+    bool held = false;     ///< a value was written, 0 included; "0" alone may mean none
+    int given = 0;         ///< when the user typed into it (higher is newer); 0 never
 };
 
 /// The rows of the page shown, with everything a page converter may touch:
-/// tags, directly written captions, the bell and the page's own warnings.
+/// tags, directly written captions, the factors, which rows the user typed.
 class PageSheet {
   public:
     static constexpr int Rows = 8;
 
-    PageSheet(Interaction& ui, const Symbols& symbols) : m_ui(ui), m_symbols(symbols) {}
+    explicit PageSheet(const Symbols& symbols) : m_symbols(symbols) {}
 
     RowCell& operator[](int row) { return m_rows.at(static_cast<std::size_t>(row)); }
     const RowCell& operator[](int row) const { return m_rows.at(static_cast<std::size_t>(row)); }
@@ -38,13 +39,23 @@ class PageSheet {
     bool exists(int row) const { return !(*this)[row].unit.empty(); }
     /// The row's value read back from its tag (0 when the tag is not a number).
     double value(int row) const { return textValue((*this)[row].tag, m_symbols); }
+    /// Whether a value was written into the row since it was last cleared; on
+    /// pages where a typed zero is a value this tells 0 from no value.
+    bool holds(int row) const { return (*this)[row].held; }
     /// Writes a value in the general conversion; a non-finite value is an overflow.
     void setValue(int row, double value);
     /// Writes a single-precision value (7 significant digits).
     void setSingle(int row, float value);
-    void clear(int row) { (*this)[row].tag = "0"; }
-    /// `ResetPage`: every value cell empty, tag "0", row colour, 12 points.
+    /// No value: tag "0".
+    void clear(int row);
+    /// `ResetPage`: every value cell empty, tag "0", row colour, 12 points, nothing typed.
     void reset();
+
+    /// Marks the row as typed by the user, newer than every other.
+    void markGiven(int row) { (*this)[row].given = ++m_lastGiven; }
+    void forgetGiven(int row) { (*this)[row].given = 0; }
+    /// The rows the user typed into, newest first.
+    std::vector<int> givens() const;
 
     /// The eight rows as they stand, to put back when a calculation has no answer.
     using Snapshot = std::array<RowCell, Rows + 1>;
@@ -54,20 +65,13 @@ class PageSheet {
     double factor(int row) const { return m_factors.at(static_cast<std::size_t>(row)); }
     void setFactor(int row, double f) { m_factors.at(static_cast<std::size_t>(row)) = f; }
 
-    const std::string& title() const { return m_title; }
-    void setTitle(std::string title) { m_title = std::move(title); }
     const Symbols& symbols() const { return m_symbols; }
 
-    void beep() { m_ui.beep(); }
-    /// An input error the user must read: exclamation icon, titled with the page title.
-    void warn(std::string_view text) { m_ui.message(MessageIcon::Exclamation, m_title, text); }
-
   private:
-    Interaction& m_ui;
     const Symbols& m_symbols;
     std::array<RowCell, Rows + 1> m_rows{}; // rows 1..8; 0 unused
     std::array<double, Rows + 1> m_factors{};
-    std::string m_title;
+    int m_lastGiven = 0;
 };
 
 } // namespace zel

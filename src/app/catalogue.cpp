@@ -1,0 +1,16 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 zelFLIGHTAB developers
+#include "app/catalogue.h"
+
+#include "convert/convert.h"
+#include "flight/pages.h"
+#include "snowtam/snowtam.h"
+
+namespace zel {
+
+const PageCatalogue& pageCatalogue() {
+    static const PageCatalogue catalogue{unitPages(), flightPages(), snowtamPages()};
+    return catalogue;
+}
+
+} // namespace zel

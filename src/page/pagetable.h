@@ -1,0 +1,105 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 zelFLIGHTAB developers
+#pragma once
+
+#include "entry/fault.h"
+#include "page/pagesheet.h"
+
+#include <array>
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace zel {
+
+/// What a converter has to tell the user once it has done what it could: nothing,
+/// the bell (a refused entry), or a warning to read. A warning may come with a
+/// fault that stopped the calculation after it. The window rings or shows it.
+struct Report {
+    enum class Kind { None, Beep, Warning };
+    Kind kind = Kind::None;
+    std::string text;                     ///< the warning
+    std::optional<ArithmeticFault> fault; ///< a calculation that stopped after the warning
+
+    static Report beep() { return {Kind::Beep, {}, {}}; }
+    static Report warning(std::string_view text) { return {Kind::Warning, std::string(text), {}}; }
+};
+
+/// How `DisplayTags` draws a row's value.
+enum class Form : std::uint8_t {
+    Number,       ///< grouped, with the digits key's number of decimals
+    HoursMinutes, ///< decimal hours as h:mm
+    Direction,    ///< three digits: "090"
+    Side,         ///< "R 11.31" for + (to the right), "L 11.31" for -
+    HeadTail,     ///< "T 5.00" for + (tail), "H 5.00" for - (head)
+    Text,         ///< the converter writes the caption; `DisplayTags` leaves it alone
+};
+
+/// What else a row says about itself; flags combine with |.
+enum RowFlag : unsigned {
+    UnknownEmpty = 1, ///< -999 stands for a value nobody knows, shown empty
+    OutputOnly = 2,   ///< a typed value cannot be put into it: the click beeps
+    Signed = 4,       ///< takes negative values where the page says so
+};
+
+/// One row of a page table: the unit caption, the factor and how it is drawn.
+/// A factor f > 0 is how many row units make one base unit of the page; f < 0
+/// says one row unit is |f| base units (so a published unit size is written
+/// exactly); 0 means the row is not converted by factor.
+struct RowSpec {
+    std::string_view unit; ///< empty: the row does not exist on the page
+    double factor = 0;
+    Form form = Form::Number;
+    unsigned flags = 0;
+
+    bool has(RowFlag flag) const { return (flags & flag) != 0; }
+};
+
+/// How many row units make one base unit: f for f > 0, 1/|f| for f < 0, 1 for 0.
+double multiplier(double factor);
+
+/// The program's own π: the single-precision value 3.1415927 (as a double
+/// exactly 3.1415927410125732). Angles and the wind triangle use it as it is, so
+/// 180° shows 3.14159274101257 radians, the figure pilots' tables were made with.
+inline constexpr float Pi = 3.14159274101257324f;
+
+/// A number page's converter: takes the typed value into the input row (which
+/// it may move) and writes the tags of the rows it computes. Arithmetic faults
+/// are thrown as ArithmeticFault; the rows written before one stay.
+using NumberConverter = Report (*)(PageSheet& page, double inputValue, int& inputRow);
+/// A text page's decoder: the typed text into the rows' captions.
+using TextDecoder = Report (*)(PageSheet& page, std::string_view text);
+
+/// What a text page takes from the keyboard: at most `limit` characters, each
+/// as `accept` turns it (upper case, say), or refused when it gives 0.
+struct TextEntry {
+    std::size_t limit = 0;
+    char32_t (*accept)(char32_t typed) = nullptr;
+};
+
+/// One page: its place in the menu, its rows and the procedure a row click runs.
+struct PageTable {
+    int number = 0; ///< 1.. : its place in the menu, three to a line
+    std::string_view name{};
+    std::array<RowSpec, PageSheet::Rows> rows{};
+    /// A number page: a row click puts the typed value into the row and runs this.
+    NumberConverter convert = nullptr;
+    /// A text page: the entry is a report of letters and digits, decoded by a
+    /// row click or Enter; the calculator's keys are hidden.
+    TextDecoder decode = nullptr;
+    TextEntry text{};
+    /// A typed 0 is a value and a row without one is empty; otherwise a 0 entry
+    /// only selects a row and a value of 0 shows as an empty cell.
+    bool zeroIsValue = false;
+    /// The factors and row 8 come from the currency rates, and the memory keys
+    /// are "Rates", "Set" and "i".
+    bool rateStore = false;
+    int functionKey = 0;           ///< the F-key that opens it from the menu face, 0 for none
+    std::string_view keyCaption{}; ///< the F-key drawn on its button
+
+    const RowSpec& row(int row) const { return rows.at(static_cast<std::size_t>(row - 1)); }
+    bool isText() const { return decode != nullptr; }
+};
+
+} // namespace zel
