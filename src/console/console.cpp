@@ -330,7 +330,23 @@ std::optional<std::string> ConsoleSession::run(const std::string& rawLine) {
         return bare([&] { m_menu.Form_Activate(); });
     }
     if (command == "show") {
-        return bare([&] { show(m_menu, m_out); });
+        // The whole window, or one part of it: the display, the rows, one row.
+        if (argument.empty() && space == std::string_view::npos) {
+            show(m_menu, m_out);
+        } else if (argument == "display") {
+            m_out << "display " << quoted(m_menu.display()) << ' ' << m_menu.displaySize() << '\n';
+        } else if (argument == "rows") {
+            for (int row = 1; row <= PageSheet::Rows; ++row) {
+                showRow(m_menu, row, m_out);
+            }
+        } else if (const auto row = argument.starts_with("row ")
+                                        ? number(argument.substr(4), 1, PageSheet::Rows)
+                                        : std::nullopt) {
+            showRow(m_menu, *row, m_out);
+        } else {
+            return std::string("show takes nothing, display, rows or row N");
+        }
+        return std::nullopt;
     }
     if (command == "tags") {
         return bare([&] {

@@ -28,7 +28,7 @@ TEST(Console, RejectsLinesItCannotRead) {
         {"keyup f13", "keyup takes enter, escape or f1 to f12"},
         {"key delete", "key takes backspace"},
         {"answer maybe", "answer takes yes, no, cancel or text TEXT"},
-        {"show now", "show takes no argument"},
+        {"show now", "show takes nothing, display, rows or row N"},
         {"fly", "unknown command: fly"},
         {"type", "type needs the text to type"},
     };

@@ -138,9 +138,11 @@ struct FakeMachine {
 struct Calculator : FakeMachine {
     FakeInteraction ui;
     Platform platform = with(ui);
-    Menu menu{platform};
+    Menu menu;
 
-    explicit Calculator(const Symbols& symbols = Dot, int page = 0) {
+    explicit Calculator(const Symbols& symbols = Dot, int page = 0,
+                        const PageCatalogue& pages = pageCatalogue())
+        : menu(platform, pages) {
         regional.value = symbols;
         menu.Form_Load();
         menu.Form_Activate();

@@ -139,5 +139,44 @@ TEST(RowRendering, TinyValuesRoundAndLongCaptionsAreSmall) {
     EXPECT_EQ(calc.menu.row(1).fontSize, 12);
 }
 
+// A page of the kind where a typed zero is a value: the converter doubles the
+// entry into the other of rows 1 and 2; row 3 is never written.
+Report doubleIntoTheOtherRow(PageSheet& page, double x, int& row) {
+    page.setValue(row, x);
+    page.setValue(3 - row, 2 * x);
+    return {};
+}
+
+TEST(InputRow, ATypedZeroIsAValueWhereThePageSaysSo) {
+    struct Case {
+        const char* name;
+        bool zeroIsValue;
+        const char* typed;
+        std::array<const char*, 3> captions;
+    };
+    const Case cases[] = {
+        {"a typed 0 is stored and shown", true, "0", {"0.00", "0.00", ""}},
+        {"a typed 5 is stored as everywhere", true, "5", {"5.00", "10.00", ""}},
+        {"nothing typed only selects the row", true, "", {"", "", ""}},
+        {"elsewhere a typed 0 only selects", false, "0", {"", "", ""}},
+        {"elsewhere a typed 5 is stored", false, "5", {"5.00", "10.00", ""}},
+    };
+    for (const Case& c : cases) {
+        std::array<PageTable, 1> table{{{.number = 1,
+                                         .name = "Test",
+                                         .rows = {{{"a"}, {"b"}, {"c"}}},
+                                         .convert = doubleIntoTheOtherRow,
+                                         .zeroIsValue = c.zeroIsValue}}};
+        const PageCatalogue pages{table};
+        Calculator calc(Dot, 1, pages);
+        calc.enter(1, c.typed);
+        for (int row = 1; row <= 3; ++row) {
+            EXPECT_EQ(calc.caption(row), c.captions[static_cast<std::size_t>(row - 1)])
+                << c.name << ", row " << row;
+        }
+        EXPECT_TRUE(calc.menu.row(1).input) << c.name;
+    }
+}
+
 } // namespace
 } // namespace zel::test
