@@ -6,6 +6,8 @@
 #include "host/platform.h"
 
 #include <algorithm>
+#include <cctype>
+#include <cmath>
 #include <deque>
 #include <functional>
 #include <map>
@@ -165,5 +167,29 @@ struct Calculator : FakeMachine {
     double value(int row) const { return textValue(tag(row), menu.symbols()); }
     std::string lastEvent() const { return ui.events.empty() ? "" : ui.events.back(); }
 };
+
+/// What the window stores or shows that is not a finite number ("row 3 tag
+/// inf"), or nothing when all is well; a caption font other than 9 or 12 points
+/// counts too.
+inline std::string nonFinite(const Menu& menu) {
+    auto bad = [](std::string text) {
+        for (char& c : text) {
+            c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
+        }
+        return text.find("inf") != std::string::npos || text.find("nan") != std::string::npos;
+    };
+    const ScratchPad& pad = menu.scratchPad();
+    if (!std::isfinite(pad.inputValue()) || !std::isfinite(pad.accumulator()) ||
+        !std::isfinite(pad.memory()) || bad(menu.display())) {
+        return "the scratch pad";
+    }
+    for (int row = 1; row <= PageSheet::Rows; ++row) {
+        const RowCell& cell = menu.row(row);
+        if (bad(cell.tag) || bad(cell.caption) || (cell.fontSize != 9 && cell.fontSize != 12)) {
+            return "row " + std::to_string(row) + ": " + cell.tag + " | " + cell.caption;
+        }
+    }
+    return {};
+}
 
 } // namespace zel::test
