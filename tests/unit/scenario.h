@@ -6,47 +6,62 @@
 
 #include <gtest/gtest.h>
 
+#include <sstream>
+
 namespace zel::test {
 
-/// What a scenario checks besides the tags.
-struct Outcome {
-    std::map<int, const char*> captions = {};
-    std::vector<std::string> events = {}; ///< all the user was told; none by default
-    int inputRow = 0;                     ///< the row marked as input, when checked
-    const char* display = nullptr;        ///< the display, when checked
-    Symbols symbols = Dot;
-};
-
-/// Values typed into rows one after the other on a page, and what the rows
-/// then hold.
+/// Values typed into rows on a page, one after the other, and what the page
+/// then holds. `entries` reads "1000@1 2000@3": type 1000, click row 1, and so
+/// on. `expect` is a list split by "|": "2=2205" row 2's tag, "7:R 11.31" row
+/// 7's caption ("8:" an empty one), "!beep" what the user was told, in order
+/// (nothing, when no such item is given), ">4" the input row, "#300." the display.
 struct Scenario {
     const char* name;
     int page;
-    std::vector<std::pair<int, const char*>> entries;
-    std::map<int, const char*> tags;
-    Outcome then = {};
+    const char* entries;
+    const char* expect;
+    Symbols symbols = Dot;
 };
+
+inline std::string trimmed(std::string text) {
+    const auto first = text.find_first_not_of(' ');
+    const auto last = text.find_last_not_of(' ');
+    return first == std::string::npos ? "" : text.substr(first, last - first + 1);
+}
+
+inline void check(const Scenario& c) {
+    Calculator calc(c.symbols, c.page);
+    std::istringstream entries(c.entries);
+    for (std::string entry; entries >> entry;) {
+        const auto at = entry.rfind('@');
+        calc.enter(std::stoi(entry.substr(at + 1)), entry.substr(0, at));
+    }
+    std::vector<std::string> events;
+    std::istringstream expect(c.expect);
+    for (std::string item; std::getline(expect, item, '|');) {
+        item = trimmed(item);
+        const auto mark = item.find_first_of("=:");
+        if (item.starts_with('!')) {
+            events.push_back(item.substr(1));
+        } else if (item.starts_with('>')) {
+            for (int row = 1; row <= PageSheet::Rows; ++row) {
+                EXPECT_EQ(calc.menu.row(row).input, row == std::stoi(item.substr(1)))
+                    << c.name << ", input row " << row;
+            }
+        } else if (item.starts_with('#')) {
+            EXPECT_EQ(calc.menu.display(), item.substr(1)) << c.name;
+        } else if (mark != std::string::npos) {
+            const int row = std::stoi(item.substr(0, mark));
+            EXPECT_EQ(item[mark] == '=' ? calc.tag(row) : calc.caption(row), item.substr(mark + 1))
+                << c.name << ", " << item;
+        }
+    }
+    EXPECT_EQ(calc.ui.events, events) << c.name;
+}
 
 template <std::size_t N> void check(const Scenario (&cases)[N]) {
     for (const Scenario& c : cases) {
-        Calculator calc(c.then.symbols, c.page);
-        for (const auto& [row, text] : c.entries) {
-            calc.enter(row, text);
-        }
-        for (const auto& [row, tag] : c.tags) {
-            EXPECT_EQ(calc.tag(row), tag) << c.name << ", tag " << row;
-        }
-        for (const auto& [row, caption] : c.then.captions) {
-            EXPECT_EQ(calc.caption(row), caption) << c.name << ", caption " << row;
-        }
-        EXPECT_EQ(calc.ui.events, c.then.events) << c.name;
-        for (int row = 1; c.then.inputRow != 0 && row <= PageSheet::Rows; ++row) {
-            EXPECT_EQ(calc.menu.row(row).input, row == c.then.inputRow)
-                << c.name << ", row " << row;
-        }
-        if (c.then.display != nullptr) {
-            EXPECT_EQ(calc.menu.display(), c.then.display) << c.name;
-        }
+        check(c);
     }
 }
 
