@@ -72,13 +72,16 @@ void Menu::Form_KeyUp(int keyCode) {
     if (busy()) {
         return;
     }
+    if (keyCode >= key::F1 && keyCode <= key::F12) {
+        // The function keys open their pages from either face.
+        if (const PageTable* table = m_pages.byFunctionKey(keyCode - key::F1 + 1)) {
+            LabMenu_Click(table->number);
+        }
+        return;
+    }
     if (m_face == Face::Menu) {
         if (keyCode == key::Escape) {
             m_platform.ui.quit();
-        } else if (keyCode >= key::F1 && keyCode <= key::F12) {
-            if (const PageTable* table = m_pages.byFunctionKey(keyCode - key::F1 + 1)) {
-                LabMenu_Click(table->number);
-            }
         }
         return;
     }

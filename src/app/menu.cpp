@@ -22,6 +22,7 @@ void Menu::Form_Load() {
 }
 
 void Menu::Form_Activate() {
+    const Symbols before = m_symbols;
     m_symbols = m_platform.regional.symbols();
     if (m_symbols.grouping.empty() || m_symbols.grouping == m_symbols.decimal) {
         const std::string& s = m_symbols.decimal;
@@ -35,7 +36,9 @@ void Menu::Form_Activate() {
                 "settings via the Windows - Control Panel - Regional and Language Settings - "
                 "Numbers tab.");
     }
-    m_pad.setDisplay("0" + m_symbols.decimal);
+    // The entry as it stands, in today's symbols: a number typed before the
+    // user switched windows is still the one a row click takes ("0." at start).
+    m_pad.redisplay(textPage(), before);
     m_digitsCaption = digitsCaptionFor(m_digitsTag);
 }
 
@@ -48,16 +51,19 @@ void Menu::LabMenu_Click(int index) {
     if (busy() || table == nullptr) {
         return;
     }
+    const bool leavingText = textPage();
     m_table = table;
     m_title = std::string(table->name);
     LoadUnits();
     ResetPage();
     m_panelsVisible = true;
     m_memoryCaptions = {"MRC", "M+", "M-"};
-    if (textPage()) {
-        // A report is typed, not calculated: the calculator's keys go away.
+    if (textPage() || leavingText) {
+        // A report is no number: it is not carried to the next page.
         ResetScratchPad();
-        m_panelsVisible = false;
+    }
+    if (textPage()) {
+        m_panelsVisible = false; // a report is typed, not calculated
     } else if (table->rateStore) {
         m_memoryCaptions = {"Rates", "Set", "i"};
     }

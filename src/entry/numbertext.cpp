@@ -179,6 +179,11 @@ std::string generalText(double value, const Symbols& symbols) {
     return significantText(value, 15, 14, symbols);
 }
 
+std::string exponentText(double value, int digits, const Symbols& symbols) {
+    // No exponent lies in -4..-5: the plain notation is never chosen.
+    return significantText(value, std::clamp(digits, 1, 17), -5, symbols);
+}
+
 std::string singleText(float value, const Symbols& symbols) {
     return significantText(static_cast<double>(value), 7, 6, symbols);
 }

@@ -26,6 +26,10 @@ void appendUtf8(std::string& text, char32_t c);
 /// the decimal exponent lies in -4..14, otherwise "1.5E-07" / "1E+20"; no grouping.
 std::string generalText(double value, const Symbols& symbols);
 
+/// A value in exponent form whatever its size, rounded to at most `digits`
+/// significant digits, trailing zeros dropped: "2.205E+17", "1E+26", "-1.5E-07".
+std::string exponentText(double value, int digits, const Symbols& symbols);
+
 /// The same conversion at single precision: 7 significant digits, plain
 /// notation while the decimal exponent lies in -4..6 ("101.9804", "1E+07").
 std::string singleText(float value, const Symbols& symbols);

@@ -58,6 +58,20 @@ void ScratchPad::displayValue() {
     m_displaySize = charCount(m_display) > 11 ? 10 : 18;
 }
 
+void ScratchPad::redisplay(bool textPage, const Symbols& before) {
+    if (const auto at = m_inputText.find(before.decimal);
+        !textPage && at != std::string::npos && before.decimal != m_symbols.decimal) {
+        m_inputText.replace(at, before.decimal.size(), m_symbols.decimal);
+    }
+    if (textPage) {
+        m_display = m_inputText;
+    } else if (m_inputText == "-0") {
+        m_display = "-0" + m_symbols.decimal; // a negative number begun
+    } else {
+        displayValue();
+    }
+}
+
 bool ScratchPad::typeDigit(int digit) {
     const std::string& dec = m_symbols.decimal;
     // The display takes at most 13 characters after the decimal symbol.

@@ -40,8 +40,9 @@ class ScratchPad {
     void reset(bool textPage);
     /// `DisplayValue`: shows the entry the way a pocket calculator does.
     void displayValue();
-    /// Shows a caption without touching the entry.
-    void setDisplay(std::string caption) { m_display = std::move(caption); }
+    /// Shows the entry again after the regional symbols were read afresh:
+    /// a decimal symbol typed as `before`'s becomes today's.
+    void redisplay(bool textPage, const Symbols& before);
 
     /// A digit key. False when the display is full (the caller beeps).
     bool typeDigit(int digit);

@@ -12,6 +12,8 @@
 #include <QSvgRenderer>
 #include <QTimer>
 
+#include <cmath>
+
 #include <utility>
 
 // The icons are compiled into this library; a static library must load them itself.
@@ -70,6 +72,9 @@ const ZelFrame::Style MenuButton{QColor(0xff, 0xff, 0xff),
                                  6,
                                  true};
 const ZelFrame::Style Cell{Qt::transparent, Qt::transparent, {}, RowColour, 0, false};
+// The input row stands on a pale amber band, with a bar in the input colour.
+const ZelFrame::Style Band{
+    QColor(0xff, 0xf3, 0xd1), QColor(0xfc, 0xe8, 0xb5), InputColour, RowColour, 4, false};
 
 constexpr std::array<const char*, 19> IconNames{
     "app",         "weight",    "fluid", "surface",    "speed",     "distance",  "angle",
@@ -131,6 +136,11 @@ MenuWindow::MenuWindow(Menu& menu, QtInteraction* interaction, QWidget* parent)
     m_menuButton->setCursor(Qt::PointingHandCursor);
     connect(m_menuButton, &ZelFrame::clicked, this,
             [this] { act([this] { m_menu.LabelMenu_Click(); }); });
+    for (ZelFrame* key :
+         {m_menuButton, m_digitsKey, m_clearKey, m_divideKey, m_operatorKeys[1], m_operatorKeys[2],
+          m_operatorKeys[3], m_memoryKeys[0], m_memoryKeys[1], m_memoryKeys[2]}) {
+        key->setFocusPolicy(Qt::TabFocus);
+    }
     m_menu.Form_Load();
     render();
 }
@@ -151,6 +161,7 @@ void MenuWindow::buildMenuFace() {
         button->setIcon(pageIcon(page, 22, PageButtonText, devicePixelRatioF()));
         button->setCornerCaption(text(table->keyCaption));
         button->setCursor(Qt::PointingHandCursor);
+        button->setFocusPolicy(Qt::TabFocus);
         connect(button, &ZelFrame::clicked, this,
                 [this, page] { act([this, page] { m_menu.LabMenu_Click(page); }); });
         m_pageButtons[static_cast<std::size_t>(page)] = button;
@@ -215,14 +226,22 @@ void MenuWindow::buildRows(QWidget* panel) {
     constexpr int Top = 9;
     for (int row = 1; row <= 8; ++row) {
         const int y = Top + (row - 1) * RowHeight;
+        auto* band = frame(Band, panel, QRect(2, y + 1, 269, RowHeight - 2));
+        band->setAttribute(Qt::WA_TransparentForMouseEvents);
+        band->hide();
         auto* value = frame(Cell, panel, QRect(4, y, 126, RowHeight));
         value->setAlignment(Qt::AlignRight);
-        value->setCursor(Qt::PointingHandCursor);
-        connect(value, &ZelFrame::clicked, this,
-                [this, row] { act([this, row] { m_menu.LabValue_Click(row); }); });
+        value->setFocusPolicy(Qt::TabFocus);
         auto* unit = frame(Cell, panel, QRect(136, y, 135, RowHeight));
         unit->setAlignment(Qt::AlignLeft);
         unit->setPointSize(8);
+        // The whole row takes the click, its unit as well as its value.
+        for (ZelFrame* cell : {value, unit}) {
+            cell->setCursor(Qt::PointingHandCursor);
+            connect(cell, &ZelFrame::clicked, this,
+                    [this, row] { act([this, row] { m_menu.LabValue_Click(row); }); });
+        }
+        m_bands[static_cast<std::size_t>(row)] = band;
         m_values[static_cast<std::size_t>(row)] = value;
         m_units[static_cast<std::size_t>(row)] = unit;
     }
@@ -246,7 +265,7 @@ ZelFrame* MenuWindow::operatorKey(int key) const {
     return key >= 4 ? m_divideKey : m_operatorKeys.at(static_cast<std::size_t>(key));
 }
 
-template <typename Handler> void MenuWindow::act(Handler handler) {
+void MenuWindow::act(const std::function<void()>& handler) {
     handler();
     render();
 }
@@ -284,6 +303,27 @@ void MenuWindow::render() {
         button->setTextColor(m_menu.operatorLit(key) ? Amber : KeyText);
     }
     m_divideKey->setTextColor(m_menu.operatorLit(4) || m_menu.operatorLit(5) ? Amber : KeyText);
+    m_display->setShortForm([this](int digits) {
+        return text(exponentText(m_menu.scratchPad().inputValue(), digits, m_menu.symbols()));
+    });
+    m_display->setToolTip(m_display->fit().shortened ? m_display->caption() : QString());
+    renderRows();
+    if (m_menu.face() != m_shownFace) {
+        // A keyboard user keeps a place to start from on the other face: the
+        // page's own button on the menu, the window itself on a page.
+        const bool keyboard = focusWidget() != this && focusWidget() != nullptr;
+        m_shownFace = m_menu.face();
+        ZelFrame* button = page ? nullptr : pageButton(m_menu.currentPage());
+        if (keyboard && button != nullptr) {
+            button->setFocus(Qt::OtherFocusReason);
+        } else {
+            setFocus(Qt::OtherFocusReason);
+        }
+    }
+}
+
+void MenuWindow::renderRows() {
+    const Symbols& symbols = m_menu.symbols();
     for (int row = 1; row <= 8; ++row) {
         const RowCell& cell = m_menu.row(row);
         const QColor colour = cell.input ? InputColour : RowColour;
@@ -291,9 +331,27 @@ void MenuWindow::render() {
         value->setCaption(text(cell.caption));
         value->setPointSize(cell.fontSize);
         value->setTextColor(colour);
+        // A number too long for its cell is drawn in exponent form, after
+        // the side or head/tail letter it may carry ("R 1.5E+20").
+        const std::string& caption = cell.caption;
+        const bool lettered = caption.size() > 2 && caption[1] == ' ' &&
+                              std::string_view("RLTH").find(caption[0]) != std::string_view::npos;
+        const double v = textValue(cell.tag, symbols);
+        ZelFrame::ShortForm shortForm;
+        if (cell.held || v != 0) {
+            shortForm = [prefix = lettered ? caption.substr(0, 2) : std::string(),
+                         v = lettered ? std::fabs(v) : v, symbols](int digits) {
+                return text(prefix + exponentText(v, digits, symbols));
+            };
+        }
+        value->setShortForm(shortForm);
         ZelFrame* unit = m_units[static_cast<std::size_t>(row)];
         unit->setCaption(text(cell.unit));
         unit->setTextColor(colour);
+        unit->setToolTip(text(cell.unit));
+        value->setToolTip(value->fit().shortened || value->fit().wrapped ? text(cell.caption)
+                                                                         : text(cell.unit));
+        m_bands[static_cast<std::size_t>(row)]->setVisible(cell.input);
     }
 }
 
@@ -312,6 +370,7 @@ bool MenuWindow::event(QEvent* e) {
         // sends an activation; the activation that follows it is the same one.
         m_shown = true;
         m_skipActivation = true;
+        setFocus(Qt::OtherFocusReason); // no control has the focus until Tab gives it one
         act([this] { m_menu.Form_Activate(); });
     } else if (e->type() == QEvent::WindowActivate) {
         const bool ownDialog = m_interaction && m_interaction->takeDialogClosed();
@@ -322,36 +381,6 @@ bool MenuWindow::event(QEvent* e) {
         m_menu.Form_QueryUnload();
     }
     return QWidget::event(e);
-}
-
-void MenuWindow::keyPressEvent(QKeyEvent* e) {
-    if (e->key() == Qt::Key_Backspace) {
-        act([this] { m_menu.Form_KeyPress(key::Backspace); });
-        return;
-    }
-    const QString typed = e->text();
-    for (const char32_t c : typed.toUcs4()) {
-        if (c >= 0x20 && c != 0x7f) {
-            act([this, c] { m_menu.Form_KeyPress(c); });
-        }
-    }
-}
-
-void MenuWindow::keyReleaseEvent(QKeyEvent* e) {
-    if (e->isAutoRepeat()) {
-        return;
-    }
-    int code = 0;
-    if (e->key() == Qt::Key_Return || e->key() == Qt::Key_Enter) {
-        code = key::Enter;
-    } else if (e->key() == Qt::Key_Escape) {
-        code = key::Escape;
-    } else if (e->key() >= Qt::Key_F1 && e->key() <= Qt::Key_F12) {
-        code = key::F1 + (e->key() - Qt::Key_F1);
-    }
-    if (code != 0) {
-        act([this, code] { m_menu.Form_KeyUp(code); });
-    }
 }
 
 } // namespace zel

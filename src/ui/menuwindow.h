@@ -7,6 +7,9 @@
 
 #include <QWidget>
 #include <array>
+#include <functional>
+#include <set>
+#include <vector>
 
 namespace zel {
 
@@ -31,6 +34,8 @@ class MenuWindow : public QWidget {
         return m_pageButtons.at(static_cast<std::size_t>(page));
     }
     ZelFrame* valueCell(int row) const { return m_values.at(static_cast<std::size_t>(row)); }
+    /// The light band behind the input row.
+    QWidget* inputBand(int row) const { return m_bands.at(static_cast<std::size_t>(row)); }
     ZelFrame* unitCell(int row) const { return m_units.at(static_cast<std::size_t>(row)); }
     ZelFrame* operatorKey(int key) const;
     ZelFrame* memoryKey(int key) const { return m_memoryKeys.at(static_cast<std::size_t>(key)); }
@@ -46,8 +51,11 @@ class MenuWindow : public QWidget {
 
   protected:
     bool event(QEvent* event) override;
+    // The keys (windowkeys.cpp): typed characters on press, Enter, Escape and
+    // the function keys on release, Tab and the arrows move the focus.
     void keyPressEvent(QKeyEvent* event) override;
     void keyReleaseEvent(QKeyEvent* event) override;
+    bool focusNextPrevChild(bool next) override;
 
   private:
     void buildMenuFace();
@@ -55,7 +63,14 @@ class MenuWindow : public QWidget {
     void buildCalculator(QWidget* panel);
     void buildRows(QWidget* panel);
     /// Runs one event handler of Menu, then draws the result.
-    template <typename Handler> void act(Handler handler);
+    void act(const std::function<void()>& handler);
+    /// The controls Tab moves over on the face shown, in order.
+    std::vector<ZelFrame*> focusChain() const;
+    /// Moves the focus `step` places along the chain (or the menu grid).
+    void moveFocus(int step);
+    /// The row whose value or unit cell this is; 0 for another widget.
+    int rowOf(const QWidget* widget) const;
+    void renderRows();
 
     Menu& m_menu;
     QtInteraction* m_interaction;
@@ -73,11 +88,16 @@ class MenuWindow : public QWidget {
     std::array<ZelFrame*, 25> m_pageButtons{};
     std::array<ZelFrame*, 9> m_values{};
     std::array<ZelFrame*, 9> m_units{};
+    std::array<QWidget*, 9> m_bands{};
     std::array<ZelFrame*, 4> m_operatorKeys{}; // + - x; the divide key is one face for two
     std::array<ZelFrame*, 3> m_memoryKeys{};
     int m_shownIconPage = -1;
     bool m_shown = false;
     bool m_skipActivation = false;
+    Face m_shownFace = Face::Menu;
+    /// Keys whose press reached this window: only their release acts, never
+    /// the release of a key that closed a dialog.
+    std::set<int> m_pressed;
 };
 
 /// The icon of a page (0: the application), drawn in one colour at a size.

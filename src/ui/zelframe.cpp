@@ -61,6 +61,65 @@ void ZelFrame::setHighlighted(bool on) {
     update();
 }
 
+void ZelFrame::setShortForm(ShortForm shortForm) {
+    m_shortForm = std::move(shortForm);
+    update();
+}
+
+void ZelFrame::press() {
+    emit clicked(QPoint(width() / 2, height() / 4));
+}
+
+void ZelFrame::focusInEvent(QFocusEvent* event) {
+    QWidget::focusInEvent(event);
+    update();
+}
+
+void ZelFrame::focusOutEvent(QFocusEvent* event) {
+    QWidget::focusOutEvent(event);
+    update();
+}
+
+QRectF ZelFrame::textArea() const {
+    const QRectF area = QRectF(rect()).adjusted(0.5, 0.5, -1.5, -1.5);
+    QRectF text = area.adjusted(6, 2, -6, -2);
+    if (!m_icon.isNull()) {
+        const qreal side = m_icon.width() / m_icon.devicePixelRatio();
+        text.setTop(area.top() + area.height() * 0.16 + side + 1);
+    }
+    return text;
+}
+
+ZelFrame::Fit ZelFrame::fit() const {
+    const qreal width = textArea().width();
+    QFont font = this->font();
+    font.setBold(m_bold);
+    auto fits = [&](const QString& text, qreal points) {
+        font.setPointSizeF(points);
+        return QFontMetricsF(font).horizontalAdvance(text) <= width;
+    };
+    // Smaller first, half a point at a time.
+    const qreal smallest = std::min(m_pointSize, SmallestPoints);
+    for (qreal points = m_pointSize; points >= smallest; points -= 0.5) {
+        if (fits(m_caption, points)) {
+            return {m_caption, points};
+        }
+    }
+    if (m_shortForm) {
+        // As many digits as fit at the smallest size, then as large as they fit.
+        for (int digits = 15; digits >= 1; --digits) {
+            if (const QString text = m_shortForm(digits); fits(text, smallest)) {
+                qreal points = m_pointSize;
+                while (points > smallest && !fits(text, points)) {
+                    points -= 0.5;
+                }
+                return {text, points, true};
+            }
+        }
+    }
+    return {m_caption, smallest, false, true};
+}
+
 void ZelFrame::paintEvent(QPaintEvent*) {
     QPainter p(this);
     p.setRenderHint(QPainter::Antialiasing);
@@ -88,25 +147,31 @@ void ZelFrame::paintEvent(QPaintEvent*) {
         p.drawPath(face);
     }
 
-    QRectF text = area.adjusted(6, 2, -6, -2);
+    if (hasFocus()) {
+        // The keyboard's place, visible on the light sheet and the dark keys.
+        QPainterPath ring;
+        ring.addRoundedRect(area.adjusted(1, 1, -1, -1), std::max<qreal>(r - 1, 2),
+                            std::max<qreal>(r - 1, 2));
+        p.setPen(QPen(QColor(255, 190, 0), 2));
+        p.drawPath(ring);
+    }
+
+    const QRectF text = textArea();
     if (!m_icon.isNull()) {
         const qreal side = m_icon.width() / m_icon.devicePixelRatio();
-        const QPointF at(area.center().x() - side / 2, area.top() + area.height() * 0.16);
-        p.drawPixmap(at, m_icon);
-        text.setTop(at.y() + side + 1);
+        p.drawPixmap(QPointF(area.center().x() - side / 2, area.top() + area.height() * 0.16),
+                     m_icon);
     }
+    const Fit shown = fit();
     QFont font = this->font();
-    font.setPointSizeF(m_pointSize);
+    font.setPointSizeF(shown.points);
     font.setBold(m_bold);
-    // A caption that does not fit is drawn smaller rather than cut off.
-    while (font.pointSizeF() > 6 &&
-           QFontMetricsF(font).horizontalAdvance(m_caption) > text.width()) {
-        font.setPointSizeF(font.pointSizeF() - 0.5);
-    }
     p.setFont(font);
     p.setPen(m_style.text);
     const Qt::Alignment vertical = m_icon.isNull() ? Qt::AlignVCenter : Qt::AlignTop;
-    p.drawText(text, static_cast<int>(m_alignment | vertical), m_caption);
+    p.drawText(text,
+               static_cast<int>(m_alignment | vertical) | (shown.wrapped ? Qt::TextWordWrap : 0),
+               shown.text);
     if (!m_corner.isEmpty()) {
         QFont small = this->font();
         small.setPointSizeF(6.5);
