@@ -61,7 +61,7 @@ A calculator for aircraft pilots: unit converters, fuel, wind and airspeed
 calculators, a SNOWTAM runway-state decoder and currency rates.
 
   --convert PAGE ROW VALUE  convert VALUE given for ROW of PAGE, print the
-                            page's eight rows and exit. PAGE is a number 1-18
+                            page's eight rows and exit. PAGE is a number 1-24
                             or a name (weight, "fuel uplift", "Mach - AS");
                             ROW is a number 1-8 or a unit (lbs, kt, °C);
                             VALUE is written the regional way (1,5 in Germany)

@@ -5,6 +5,7 @@
 #include "flight/airspeed.h"
 #include "flight/fuel.h"
 #include "flight/navigation.h"
+#include "flight/planning.h"
 
 #include <array>
 
@@ -14,7 +15,7 @@ namespace {
 // On the navigation pages -999 stands for a value nobody knows yet.
 constexpr unsigned Nav = UnknownEmpty;
 
-constexpr std::array<PageTable, 7> Pages{{
+constexpr std::array<PageTable, 12> Pages{{
     {.number = 10,
      .name = "Fuel Uplift",
      .rows = {{{"Remaining Fuel - kg"},
@@ -95,6 +96,66 @@ constexpr std::array<PageTable, 7> Pages{{
                {"Cross Wind - kt", 0, Form::Side, Nav}}},
      .convert = Convert_WindComp,
      .functionKey = 12},
+    {.number = 19,
+     .name = "Altitude",
+     .rows = {{{"Altitude - ft"},
+               {"QNH - hPa"},
+               {"QNH - inHg"},
+               {"Pressure Altitude - ft"},
+               {"OAT - °C"},
+               {"ISA Deviation - °C"},
+               {"Density Altitude - ft", 0, Form::Number, OutputOnly},
+               {"ISA Temperature - °C", 0, Form::Number, OutputOnly}}},
+     .convert = Convert_Altitude,
+     .zeroIsValue = true},
+    {.number = 20,
+     .name = "Descent",
+     .rows = {{{"Altitude Change - ft"},
+               {"Distance - nm"},
+               {"Ground Speed - kt"},
+               {"Time - min"},
+               {"Vertical Speed - ft/min"},
+               {"Path Angle - °"},
+               {"Gradient - ft/nm"},
+               {"Gradient - %"}}},
+     .convert = Convert_Descent,
+     .zeroIsValue = true},
+    {.number = 21,
+     .name = "Turn",
+     .rows = {{{"TAS - kt"},
+               {"Bank Angle - °"},
+               {"Rate of Turn - °/s"},
+               {"Radius - nm"},
+               {"Radius - m"},
+               {"Time for 360° - s"},
+               {"Load Factor - g"},
+               {"Stall Speed Increase - %"}}},
+     .convert = Convert_Turn,
+     .zeroIsValue = true},
+    {.number = 22,
+     .name = "Fuel Plan",
+     .rows = {{{"Distance - nm"},
+               {"Ground Speed - kt"},
+               {"Flight Time - h:mm", 0, Form::HoursMinutes},
+               {"Fuel Flow - per hr"},
+               {"Trip Fuel"},
+               {"Reserve - min"},
+               {"Reserve Fuel"},
+               {"Fuel Required", 0, Form::Number, OutputOnly}}},
+     .convert = Convert_FuelPlan,
+     .zeroIsValue = true},
+    {.number = 23,
+     .name = "Cloud Base",
+     .rows = {{{"Temperature - °C"},
+               {"Dew Point - °C"},
+               {"Spread - °C"},
+               {"Cloud Base - ft AGL"},
+               {"Cloud Base - m AGL"},
+               {"Rel. Humidity - %", 0, Form::Number, OutputOnly},
+               {"Elevation - ft"},
+               {"Cloud Base - ft AMSL", 0, Form::Number, OutputOnly}}},
+     .convert = Convert_CloudBase,
+     .zeroIsValue = true},
 }};
 
 } // namespace

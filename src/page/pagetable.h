@@ -40,7 +40,6 @@ enum class Form : std::uint8_t {
 enum RowFlag : unsigned {
     UnknownEmpty = 1, ///< -999 stands for a value nobody knows, shown empty
     OutputOnly = 2,   ///< a typed value cannot be put into it: the click beeps
-    Signed = 4,       ///< takes negative values where the page says so
 };
 
 /// One row of a page table: the unit caption, the factor and how it is drawn.

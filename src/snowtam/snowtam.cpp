@@ -98,13 +98,36 @@ Braking braking(double bb, const Symbols& symbols) {
 
 } // namespace
 
+void writeStateGroup(PageSheet& page, std::string_view state) {
+    if (const auto* deposit = lookUp(Deposits, state.substr(0, 1))) {
+        page[2].caption = std::string(*deposit);
+    }
+    const auto* extent = lookUp(Extents, state.substr(1, 1));
+    page[4].caption = extent ? std::string(*extent) : "(invalid entry)";
+    const std::string_view depth = state.substr(2, 2);
+    const auto* depthText = lookUp(Depths, depth);
+    page[6].caption = depthText ? std::string(*depthText) : std::string(depth) + " mm";
+    writeBraking(page, state.substr(4, 2));
+}
+
+void writeBraking(PageSheet& page, std::string_view code) {
+    Braking b = braking(CGetal(code, page.symbols()), page.symbols());
+    page[7].caption = std::move(b.coefficient);
+    page[8].caption = std::move(b.action);
+}
+
+void sizeCaptions(PageSheet& page) {
+    for (int row = 1; row <= PageSheet::Rows; ++row) {
+        page[row].fontSize = charCount(page[row].caption) >= 14 ? 9 : 12;
+    }
+}
+
 Report Convert_Snowtam(PageSheet& page, std::string_view group) {
     page.reset();
     if (charCount(group) != 8) {
         return Report::warning("Snowtam must be 8 digits...");
     }
     const Symbols& symbols = page.symbols();
-
     const double runway = CGetal(group.substr(0, 2), symbols);
     if (runway == 88) {
         page[1].caption = "All RWY";
@@ -116,22 +139,8 @@ Report Convert_Snowtam(PageSheet& page, std::string_view group) {
         // Runway numbers above 50 are the right-hand runway of a parallel pair.
         page[1].caption = formatNumber(runway - 50, "00", symbols) + "R";
     }
-    if (const auto* deposit = lookUp(Deposits, group.substr(2, 1))) {
-        page[2].caption = std::string(*deposit);
-    }
-    const auto* extent = lookUp(Extents, group.substr(3, 1));
-    page[4].caption = extent ? std::string(*extent) : "(invalid entry)";
-    const std::string_view depth = group.substr(4, 2);
-    const auto* depthText = lookUp(Depths, depth);
-    page[6].caption = depthText ? std::string(*depthText) : std::string(depth) + " mm";
-
-    Braking b = braking(CGetal(group.substr(6, 2), symbols), symbols);
-    page[7].caption = std::move(b.coefficient);
-    page[8].caption = std::move(b.action);
-
-    for (int row = 1; row <= PageSheet::Rows; ++row) {
-        page[row].fontSize = charCount(page[row].caption) >= 14 ? 9 : 12;
-    }
+    writeStateGroup(page, group.substr(2));
+    sizeCaptions(page);
     return {};
 }
 
@@ -142,7 +151,17 @@ char32_t groupCharacter(char32_t c) {
     return c >= '/' && c <= '9' ? c : 0;
 }
 
-constexpr std::array<PageTable, 1> Pages{{
+/// A report is typed in capitals: figures, letters, "/", "." and blanks.
+char32_t reportCharacter(char32_t c) {
+    if (c >= 'a' && c <= 'z') {
+        return c - 'a' + 'A';
+    }
+    const bool allowed =
+        (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') || c == '/' || c == '.' || c == ' ';
+    return allowed ? c : 0;
+}
+
+constexpr std::array<PageTable, 2> Pages{{
     {.number = 14,
      .name = "Snowtam",
      .rows = {{{"Runway", 0, Form::Text},
@@ -157,6 +176,18 @@ constexpr std::array<PageTable, 1> Pages{{
      .text = {8, groupCharacter},
      .functionKey = 11,
      .keyCaption = "F11"},
+    {.number = 24,
+     .name = "RWY Condition",
+     .rows = {{{"Runway", 0, Form::Text},
+               {"Assessed - UTC", 0, Form::Text},
+               {"Touchdown", 0, Form::Text},
+               {"Midpoint", 0, Form::Text},
+               {"Rollout", 0, Form::Text},
+               {"Coverage - %", 0, Form::Text},
+               {"Depth - mm", 0, Form::Text},
+               {"Contaminant", 0, Form::Text}}},
+     .decode = Convert_RunwayCondition,
+     .text = {160, reportCharacter}},
 }};
 
 } // namespace

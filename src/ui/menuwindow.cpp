@@ -24,9 +24,11 @@ static void loadIcons() {
 namespace zel {
 namespace {
 
-// The window is 4420 x 6200 twips: 295 x 413 device-independent pixels.
+// The window is 295 device-independent pixels wide, as the original 4420
+// twips; it holds eight lines of page buttons, each 61 pixels high.
 constexpr int WindowWidth = 295;
-constexpr int WindowHeight = 413;
+constexpr int WindowHeight = 535;
+constexpr int RowHeight = 45;
 
 const QColor RowColour(0, 69, 125);
 const QColor InputColour(85, 142, 191);
@@ -76,10 +78,11 @@ const ZelFrame::Style Cell{Qt::transparent, Qt::transparent, {}, RowColour, 0, f
 const ZelFrame::Style Band{
     QColor(0xff, 0xf3, 0xd1), QColor(0xfc, 0xe8, 0xb5), InputColour, RowColour, 4, false};
 
-constexpr std::array<const char*, 19> IconNames{
-    "app",         "weight",    "fluid", "surface",    "speed",     "distance",  "angle",
-    "temperature", "pressure",  "power", "fuelUplift", "endurance", "fuelRange", "machAs",
-    "snowtam",     "trackTime", "wind",  "windComp",   "currency"};
+constexpr std::array<const char*, 25> IconNames{
+    "app",         "weight",    "fluid",     "surface",     "speed",     "distance",  "angle",
+    "temperature", "pressure",  "power",     "fuelUplift",  "endurance", "fuelRange", "machAs",
+    "snowtam",     "trackTime", "wind",      "windComp",    "currency",  "altitude",  "descent",
+    "turn",        "fuelPlan",  "cloudBase", "rwyCondition"};
 
 QString text(const std::string& s) {
     return QString::fromStdString(s);
@@ -146,7 +149,7 @@ MenuWindow::MenuWindow(Menu& menu, QtInteraction* interaction, QWidget* parent)
 }
 
 void MenuWindow::buildMenuFace() {
-    // Three columns by six lines, in page order.
+    // Three columns by eight lines, in page order.
     const PageCatalogue& pages = pageCatalogue();
     for (int page = 1; page <= pages.count(); ++page) {
         const PageTable* table = pages.find(page);
@@ -172,7 +175,7 @@ void MenuWindow::buildPageFace() {
     m_pageFace = frame(Background, this, QRect(0, 36, WindowWidth, WindowHeight - 36));
     auto* calculator = frame(Panel, m_pageFace, QRect(11, 10, 273, 89));
     buildCalculator(calculator);
-    auto* rows = frame(Sheet, m_pageFace, QRect(11, 110, 273, 258));
+    auto* rows = frame(Sheet, m_pageFace, QRect(11, 110, 273, 8 * RowHeight + 18));
     buildRows(rows);
 }
 
@@ -222,7 +225,6 @@ void MenuWindow::buildCalculator(QWidget* panel) {
 }
 
 void MenuWindow::buildRows(QWidget* panel) {
-    constexpr int RowHeight = 30;
     constexpr int Top = 9;
     for (int row = 1; row <= 8; ++row) {
         const int y = Top + (row - 1) * RowHeight;
@@ -303,7 +305,9 @@ void MenuWindow::render() {
         button->setTextColor(m_menu.operatorLit(key) ? Amber : KeyText);
     }
     m_divideKey->setTextColor(m_menu.operatorLit(4) || m_menu.operatorLit(5) ? Amber : KeyText);
-    m_display->setShortForm([this](int digits) {
+    const bool report = page && m_menu.page()->isText();
+    m_display->setShowEnd(report);
+    m_display->setShortForm(report ? ZelFrame::ShortForm() : [this](int digits) {
         return text(exponentText(m_menu.scratchPad().inputValue(), digits, m_menu.symbols()));
     });
     m_display->setToolTip(m_display->fit().shortened ? m_display->caption() : QString());

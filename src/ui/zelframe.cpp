@@ -66,6 +66,11 @@ void ZelFrame::setShortForm(ShortForm shortForm) {
     update();
 }
 
+void ZelFrame::setShowEnd(bool showEnd) {
+    m_showEnd = showEnd;
+    update();
+}
+
 void ZelFrame::press() {
     emit clicked(QPoint(width() / 2, height() / 4));
 }
@@ -116,6 +121,10 @@ ZelFrame::Fit ZelFrame::fit() const {
                 return {text, points, true};
             }
         }
+    }
+    if (m_showEnd) {
+        font.setPointSizeF(smallest);
+        return {QFontMetricsF(font).elidedText(m_caption, Qt::ElideLeft, width), smallest, true};
     }
     return {m_caption, smallest, false, true};
 }

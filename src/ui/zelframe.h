@@ -45,6 +45,8 @@ class ZelFrame : public QWidget {
     /// significant digits fit: an exponent form such as "2.204999999E+17".
     using ShortForm = std::function<QString(int digits)>;
     void setShortForm(ShortForm shortForm);
+    /// A text too long for the face shows its end (a report being typed).
+    void setShowEnd(bool showEnd);
     /// The caption as it is drawn: smaller, down to the smallest size that is
     /// still read at a glance, then in its short form, so that no digit is
     /// cut off. A text caption that still does not fit wraps onto two lines.
@@ -80,6 +82,7 @@ class ZelFrame : public QWidget {
     QString m_corner;
     QPixmap m_icon;
     ShortForm m_shortForm;
+    bool m_showEnd = false;
     qreal m_pointSize = 9;
     bool m_bold = false;
     bool m_pressed = false;

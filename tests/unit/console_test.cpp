@@ -22,7 +22,7 @@ struct Session : FakeMachine {
 
 TEST(Console, RejectsLinesItCannotRead) {
     const std::pair<const char*, const char*> cases[] = {
-        {"page 19", "page takes a number from 1 to 18"},
+        {"page 25", "page takes a number from 1 to 24"},
         {"row x", "row takes a number from 1 to 8"},
         {"op 6", "op takes a number from 0 to 5"},
         {"keyup f13", "keyup takes enter, escape or f1 to f12"},
@@ -102,8 +102,8 @@ TEST(Convert, FindsPagesAndRowsByNumberOrName) {
 
 TEST(Convert, ExplainsWhatItCannotDo) {
     const std::tuple<const char*, const char*, const char*, const char*> cases[] = {
-        {"nowhere", "1", "1", "unknown page: nowhere (a number from 1 to 18, or a page name)"},
-        {"19", "1", "1", "unknown page: 19 (a number from 1 to 18, or a page name)"},
+        {"nowhere", "1", "1", "unknown page: nowhere (a number from 1 to 24, or a page name)"},
+        {"25", "1", "1", "unknown page: 25 (a number from 1 to 24, or a page name)"},
         {"wind", "°", "90", "row ° is ambiguous on Wind: give its number"},
         {"angle", "7", "1", "row 7 is not used on Angle"},
         {"weight", "stone", "1", "no row stone on Weight"},

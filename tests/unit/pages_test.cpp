@@ -246,5 +246,73 @@ TEST(Snowtam, TakesEightCodeCharactersAndDrawsLongTextsSmall) {
     EXPECT_EQ(calc.menu.scratchPad().inputText(), "");
 }
 
+TEST(RunwayCondition, DecodesTodaysReports) {
+    const std::pair<const char*, const char*> cases[] = {
+        {"09R 5/2/2 100/50/75 NR/06/06 WET/SLUSH/SLUSH",
+         "1:09R | 2: | 3:5 Good | 4:2 Medium-Poor | 5:2 Medium-Poor | 6:100 / 50 / 75 | "
+         "7:NR / 06 / 06 | 8:Wet / Slush / Slush"},
+        {"swea0149 eadd (snowtam 0149 eadd 02170135 27r 6/4/0 25/nr/100 02/nr/120 "
+         "dry/frost/water on top of compacted snow 35 29l 5/5/5",
+         "1:27R width 35 m | 2:02-17 01:35 | 3:6 Dry | 4:4 Good-Medium | 5:0 Less than Poor | "
+         "6:25 / NR / 100 | 7:02 / NR / 120 | 8:Dry / Frost / Water/Compacted"},
+        {"01 3/3/1 50/50/50 10/10/10 SPECIALLY PREPARED WINTER RUNWAY/ICE/WET ICE",
+         "8:Prepared Winter / Ice / Wet Ice"},
+        {"1 3/3/1 50/50/50 10/10/10 ICE/ICE/ICE", // a coverage is no runway-state group
+         "!exclamation RWY Condition: Not a runway condition report"},
+        {"R24L/290140", "1:24L | 2:Wet / Water Patches | 4:51% - 100% | 6:01 mm | 7:0.40 | 8:Good"},
+        {"METAR EDDF 241220Z R07C/CLRD70 R25/SNOCLO",
+         "1:07C | 2:Contamination cleared | 4: | 7:0.70 | 8:Good"},
+        {"R25R/SNOCLO", "1:25R | 2:Closed by snow"},
+        {"R/SNOCLO", "1:All RWY | 2:Closed by snow"},
+        {"SNOCLO", "1:All RWY | 2:Closed by snow"},
+        {"88290140", "1:All RWY | 2:Wet / Water Patches | 7:0.40"},
+        {"R99/451295", "1:Previous Report | 2:Dry Snow | 6:12 mm | 7:0.40 - 1.00 | 8:Good"},
+        {"02170055 09L 5/5/5 100/100/100 NR/NR/NR WET/WET/WET", "1:09L | 2:02-17 00:55"},
+        {"37L 5/5/5 100/100/100 NR/NR/NR WET/WET/WET", "1: | !exclamation RWY Condition: Not a "
+                                                       "runway condition report"},
+        {"09 7/5/5 100/100/100 NR/NR/NR WET/WET/WET", "!exclamation RWY Condition: Not a runway "
+                                                      "condition report"},
+        {"09 5/5/5 100/100/60 NR/NR/NR WET/WET/WET", "!exclamation RWY Condition: Not a runway "
+                                                     "condition report"},
+        {"09 5/5/5 100/100/100 NR/NR/NR WET/WET/MUD", "!exclamation RWY Condition: Not a runway "
+                                                      "condition report"},
+    };
+    for (const auto& [report, expect] : cases) {
+        // Typed in any case, decoded with Enter.
+        Calculator calc(Dot, 24);
+        calc.type(report);
+        calc.menu.Form_KeyUp(key::Enter);
+        std::vector<std::string> told;
+        std::istringstream items(expect);
+        for (std::string item; std::getline(items, item, '|');) {
+            item = trimmed(item);
+            if (item.starts_with('!')) {
+                told.push_back(item.substr(1));
+            } else {
+                const auto colon = item.find(':');
+                EXPECT_EQ(calc.caption(std::stoi(item.substr(0, colon))), item.substr(colon + 1))
+                    << report;
+            }
+        }
+        EXPECT_EQ(calc.ui.events, told) << report;
+    }
+}
+
+TEST(RunwayCondition, TakesAReportOfUpTo160Characters) {
+    Calculator calc(Dot, 24);
+    calc.type("r24l/29-0140");
+    EXPECT_EQ(calc.menu.display(), "R24L/290140");
+    EXPECT_FALSE(calc.menu.panelsVisible());
+    calc.type(std::string(149, ' '));
+    EXPECT_TRUE(calc.ui.events.empty());
+    calc.type("x");
+    EXPECT_EQ(calc.ui.events, std::vector<std::string>{"beep"});
+    calc.menu.LabValue_Click(3);
+    EXPECT_EQ(calc.caption(1), "24L");
+    EXPECT_EQ(calc.menu.row(2).unit, "Type of Deposit"); // the captions of the group
+    calc.menu.LabMenu_Click(24);
+    EXPECT_EQ(calc.menu.row(2).unit, "Assessed - UTC");
+}
+
 } // namespace
 } // namespace zel::test

@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 zelFLIGHTAB developers
+// Runway condition reports, any text: a decode or the message, never a crash;
+// a decode names its runway and draws every caption at 9 or 12 points.
+#include "check.h"
+#include "snowtam/snowtam.h"
+
+using namespace zel;
+
+extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t size) {
+    const Symbols symbols = size > 0 && data[0] % 2 ? Symbols{",", "."} : Symbols{};
+    PageSheet page(symbols);
+    const Report report = Convert_RunwayCondition(page, fuzz::text(data, size));
+    if (report.kind == Report::Kind::None) {
+        ZEL_CHECK(!page[1].caption.empty() || !page[2].caption.empty());
+    } else {
+        ZEL_CHECK(report.text == "Not a runway condition report");
+        for (int row = 1; row <= PageSheet::Rows; ++row) {
+            ZEL_CHECK(page[row].caption.empty());
+        }
+    }
+    for (int row = 1; row <= PageSheet::Rows; ++row) {
+        ZEL_CHECK(page[row].fontSize == 9 || page[row].fontSize == 12);
+    }
+    return 0;
+}

@@ -1,0 +1,112 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 zelFLIGHTAB developers
+#include "flight/planning.h"
+#include "flight/solver.h"
+
+#include <cmath>
+#include <limits>
+
+namespace zel {
+namespace {
+
+using namespace solver;
+
+// The ICAO standard atmosphere below the tropopause: sea-level pressure and
+// temperature, the lapse rate 0.0065 K/m, g0 = 9.80665 m/s² and R = 287.05287
+// J/(kg K) give the exponent n = g0 / (R x lapse) and the height scale
+// H0 = T0 / lapse, 44,330.77 m.
+constexpr double P0 = 1013.25;
+constexpr double T0 = 288.15;
+constexpr double Lapse = 0.0065;
+constexpr double N = 9.80665 / (287.05287 * Lapse);
+constexpr double H0 = T0 / Lapse / 0.3048; // feet
+constexpr double HectopascalsPerInch = 33.8638866667;
+
+enum Quantity { Altitude, Qnh, PressureAltitude, Oat, Deviation, DensityAltitude, IsaTemperature };
+
+/// Station pressure over sea-level pressure at a pressure altitude.
+double pressureRatio(double pa) {
+    return std::pow(1 - pa / H0, N);
+}
+
+/// Altitude, QNH and pressure altitude: the station pressure is
+/// QNH x (1 - A / H0)^n, and the pressure altitude is where the standard
+/// atmosphere has that pressure.
+double altimeter(int target, const std::array<double, 3>& v) {
+    const double a = v[0], qnh = v[1], pa = v[2];
+    switch (target) {
+    case 0:
+        return H0 * (1 - std::pow(P0 * pressureRatio(pa) / qnh, 1 / N));
+    case 1:
+        return P0 * pressureRatio(pa) / std::pow(1 - a / H0, N);
+    default:
+        return H0 * (1 - std::pow(qnh * std::pow(1 - a / H0, N) / P0, 1 / N));
+    }
+}
+
+/// 1.98 °C colder per 1000 ft: 15 - 0.0019812 x PA.
+double isa(int target, const std::array<double, 3>& v) {
+    return target == 1 ? 15 - 0.0019812 * v[0] : (15 - v[1]) / 0.0019812;
+}
+
+/// OAT = ISA temperature + deviation.
+double deviation(int target, const std::array<double, 3>& v) {
+    const double oat = v[0], isaTemperature = v[1], dev = v[2];
+    return target == 0 ? isaTemperature + dev : target == 1 ? oat - dev : oat - isaTemperature;
+}
+
+/// The standard altitude of the air's density: sigma = p/p0 x T0/T, and
+/// DA = H0 (1 - sigma^(1/(n-1))). It is only ever a result.
+double density(int target, const std::array<double, 3>& v) {
+    if (target != 2) {
+        return std::numeric_limits<double>::quiet_NaN();
+    }
+    const double sigma = pressureRatio(v[0]) * T0 / (v[1] + 273.15);
+    return H0 * (1 - std::pow(sigma, 1 / (N - 1)));
+}
+
+double toInches(double hpa) {
+    return hpa / HectopascalsPerInch;
+}
+double fromInches(double inches) {
+    return inches * HectopascalsPerInch;
+}
+
+constexpr std::string_view BadAltitude = "Invalid altitude (range -2000 - 36000 ft)";
+constexpr std::string_view BadTemperature = "Invalid temperature (range -80 - 60 °C)";
+
+constexpr Relation Relations[] = {
+    {{Altitude, Qnh, PressureAltitude}, altimeter},
+    {{PressureAltitude, IsaTemperature, -1}, isa},
+    {{Oat, IsaTemperature, Deviation}, deviation},
+    {{PressureAltitude, Oat, DensityAltitude}, density},
+};
+
+// An empty QNH is the standard 1013.25 hPa; an empty altitude is the ground
+// at sea level, unless the pressure altitude was given.
+constexpr Default Defaults[] = {{Qnh, P0}, {Altitude, 0, PressureAltitude}};
+
+// One given counts from each group: altitude or pressure altitude, QNH in
+// either unit, OAT or deviation, the newest of each.
+constexpr Model Altitudes{
+    .rows = {{{Altitude, Sign::Any, nullptr, nullptr, 1, -2000, 36000, false, BadAltitude},
+              {Qnh, Sign::NotNegative, nullptr, nullptr, 2, 850, 1100, false,
+               "Invalid QNH (range 850 - 1100 hPa)"},
+              {Qnh, Sign::NotNegative, toInches, fromInches, 2, 25.10, 32.48, false,
+               "Invalid QNH (range 25.10 - 32.48 inHg)"},
+              {PressureAltitude, Sign::Any, nullptr, nullptr, 1, -2000, 36000, false, BadAltitude},
+              {Oat, Sign::Any, nullptr, nullptr, 3, -80, 60, false, BadTemperature},
+              {Deviation, Sign::Any, nullptr, nullptr, 3, -60, 60, false, BadTemperature},
+              {DensityAltitude},
+              {IsaTemperature}}},
+    .relations = Relations,
+    .defaults = Defaults,
+};
+
+} // namespace
+
+Report Convert_Altitude(PageSheet& page, double x, int& inputRow) {
+    return solve(Altitudes, page, x, inputRow);
+}
+
+} // namespace zel

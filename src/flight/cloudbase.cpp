@@ -1,0 +1,100 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 zelFLIGHTAB developers
+#include "flight/planning.h"
+#include "flight/solver.h"
+
+#include <cmath>
+#include <limits>
+
+namespace zel {
+namespace {
+
+using namespace solver;
+
+enum Quantity { Temperature, DewPoint, Spread, Humidity, Elevation, BaseAmsl };
+
+/// Rising unsaturated air cools about 3 °C per 1000 ft and its dew point about
+/// 0.5 °C: the spread closes by some 2.5 °C per 1000 ft, 400 ft per °C.
+constexpr double FeetPerDegreeOfSpread = 400;
+
+/// Spread = temperature - dew point.
+double spread(int target, const std::array<double, 3>& v) {
+    const double s = v[0], t = v[1], td = v[2];
+    return target == 0 ? t - td : target == 1 ? td + s : t - s;
+}
+
+/// The Magnus form of the saturation vapour pressure, over water.
+double saturation(double celsius) {
+    return std::exp(17.625 * celsius / (243.04 + celsius));
+}
+
+/// Relative humidity from temperature and dew point; only ever a result.
+double humidity(int target, const std::array<double, 3>& v) {
+    return target == 0 ? 100 * saturation(v[2]) / saturation(v[1])
+                       : std::numeric_limits<double>::quiet_NaN();
+}
+
+/// Base above sea level = elevation + base above ground.
+double amsl(int target, const std::array<double, 3>& v) {
+    const double base = v[0], elevation = v[1], s = v[2] * FeetPerDegreeOfSpread;
+    return target == 0   ? elevation + s
+           : target == 1 ? base - s
+                         : (base - elevation) / FeetPerDegreeOfSpread;
+}
+
+double toFeet(double spread) {
+    return spread * FeetPerDegreeOfSpread;
+}
+double fromFeet(double feet) {
+    return feet / FeetPerDegreeOfSpread;
+}
+double toMetres(double spread) {
+    return toFeet(spread) * 0.3048;
+}
+double fromMetres(double metres) {
+    return fromFeet(metres / 0.3048);
+}
+
+constexpr std::string_view BadTemperature = "Invalid temperature (range -80 - 60 °C)";
+
+std::optional<std::string_view> saturated(const Quantities& q) {
+    for (double t : {q[Temperature], q[DewPoint]}) {
+        if (t < -80 || t > 60) {
+            return BadTemperature;
+        }
+    }
+    if (q[Spread] < 0) {
+        return "Dew point above temperature";
+    }
+    return std::nullopt;
+}
+
+constexpr Relation Relations[] = {
+    {{Spread, Temperature, DewPoint}, spread},
+    {{Humidity, Temperature, DewPoint}, humidity},
+    {{BaseAmsl, Elevation, Spread}, amsl},
+};
+
+// The spread is one quantity with the base above ground in feet and metres.
+// Temperature, dew point and spread give each other; the elevation is its own.
+constexpr Model CloudBase{
+    .rows = {{{Temperature, Sign::Any, nullptr, nullptr, 0, -80, 60, false, BadTemperature},
+              {DewPoint, Sign::Any, nullptr, nullptr, 0, -80, 60, false, BadTemperature},
+              {Spread, Sign::NotNegative},
+              {Spread, Sign::NotNegative, toFeet, fromFeet},
+              {Spread, Sign::NotNegative, toMetres, fromMetres},
+              {Humidity},
+              {Elevation, Sign::Any},
+              {BaseAmsl}}},
+    .relations = Relations,
+    .freedom = 3,
+    .check = saturated,
+};
+
+} // namespace
+
+Report Convert_CloudBase(PageSheet& page, double x, int& inputRow) {
+    return solve(CloudBase, page, x, inputRow);
+}
+
+} // namespace zel

@@ -1,0 +1,86 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 zelFLIGHTAB developers
+#include "flight/planning.h"
+#include "flight/solver.h"
+
+#include <cmath>
+#include <numbers>
+
+namespace zel {
+namespace {
+
+using namespace solver;
+
+/// Feet in a nautical mile (1852 m): a gradient in ft/nm over this is the
+/// tangent of the path angle.
+constexpr double FeetPerNauticalMile = 6076.12;
+
+enum Quantity { Height, Distance, GroundSpeed, Minutes, VerticalSpeed, Gradient };
+
+/// a = b x c, solved for any one of the three.
+double product(int target, const std::array<double, 3>& v) {
+    return target == 0 ? v[1] * v[2] : v[0] / v[3 - target];
+}
+
+/// Vertical speed = gradient x ground speed / 60 (ft/min from ft/nm at kt).
+double verticalSpeed(int target, const std::array<double, 3>& v) {
+    return product(target, {v[0] * 60, v[1], v[2]}) / (target == 0 ? 60 : 1);
+}
+
+/// Minutes = 60 x distance / ground speed.
+double minutes(int target, const std::array<double, 3>& v) {
+    const double t = v[0], d = v[1], gs = v[2];
+    return target == 0 ? 60 * d / gs : target == 1 ? t * gs / 60 : 60 * d / t;
+}
+
+double toAngle(double gradient) {
+    return std::atan(gradient / FeetPerNauticalMile) * 180 / std::numbers::pi;
+}
+double fromAngle(double degrees) {
+    return std::tan(degrees * std::numbers::pi / 180) * FeetPerNauticalMile;
+}
+double toPercent(double gradient) {
+    return 100 * gradient / FeetPerNauticalMile;
+}
+double fromPercent(double percent) {
+    return percent * FeetPerNauticalMile / 100;
+}
+
+constexpr std::string_view BadAngle = "Invalid angle (range 0 - 45°)";
+
+std::optional<std::string_view> steep(const Quantities& q) {
+    if (!std::isnan(q[Gradient]) && !(toAngle(q[Gradient]) < 45)) {
+        return BadAngle;
+    }
+    return std::nullopt;
+}
+
+constexpr Relation Relations[] = {
+    {{Height, Gradient, Distance}, product},
+    {{VerticalSpeed, Gradient, GroundSpeed}, verticalSpeed},
+    {{Minutes, Distance, GroundSpeed}, minutes},
+    {{Height, VerticalSpeed, Minutes}, product},
+};
+
+// The path is one quantity, shown as an angle, a gradient and a percentage.
+constexpr Model Descent{
+    .rows = {{{Height},
+              {Distance},
+              {GroundSpeed},
+              {Minutes},
+              {VerticalSpeed},
+              {Gradient, Sign::Positive, toAngle, fromAngle, 0, 0, 45, true, BadAngle},
+              {Gradient},
+              {Gradient, Sign::Positive, toPercent, fromPercent}}},
+    .relations = Relations,
+    .freedom = 3,
+    .check = steep,
+};
+
+} // namespace
+
+Report Convert_Descent(PageSheet& page, double x, int& inputRow) {
+    return solve(Descent, page, x, inputRow);
+}
+
+} // namespace zel

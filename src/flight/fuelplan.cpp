@@ -1,0 +1,65 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 zelFLIGHTAB developers
+#include "flight/planning.h"
+#include "flight/solver.h"
+
+namespace zel {
+namespace {
+
+using namespace solver;
+
+enum Quantity {
+    Distance,
+    GroundSpeed,
+    Hours,
+    Flow,
+    TripFuel,
+    ReserveMinutes,
+    ReserveFuel,
+    Required
+};
+
+/// a = b x c, solved for any one of the three.
+double product(int target, const std::array<double, 3>& v) {
+    return target == 0 ? v[1] * v[2] : v[0] / v[3 - target];
+}
+
+/// Reserve fuel = flow x reserve minutes / 60.
+double reserve(int target, const std::array<double, 3>& v) {
+    return product(target, {v[0] * 60, v[1], v[2]}) / (target == 0 ? 60 : 1);
+}
+
+/// Required = trip fuel + reserve fuel.
+double sum(int target, const std::array<double, 3>& v) {
+    return target == 0 ? v[1] + v[2] : v[0] - v[3 - target];
+}
+
+constexpr Relation Relations[] = {
+    {{Distance, GroundSpeed, Hours}, product},
+    {{TripFuel, Flow, Hours}, product},
+    {{ReserveFuel, Flow, ReserveMinutes}, reserve},
+    {{Required, TripFuel, ReserveFuel}, sum},
+};
+
+// The fuel rows are in whatever unit the flow is in. Only the reserve may be
+// 0 (no reserve planned); every other zero is refused.
+constexpr Model FuelPlan{
+    .rows = {{{Distance},
+              {GroundSpeed},
+              {Hours},
+              {Flow},
+              {TripFuel},
+              {ReserveMinutes, Sign::NotNegative},
+              {ReserveFuel},
+              {Required}}},
+    .relations = Relations,
+    .freedom = 4,
+};
+
+} // namespace
+
+Report Convert_FuelPlan(PageSheet& page, double x, int& inputRow) {
+    return solve(FuelPlan, page, x, inputRow);
+}
+
+} // namespace zel

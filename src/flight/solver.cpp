@@ -1,0 +1,144 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 zelFLIGHTAB developers
+#include "flight/solver.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+#include <vector>
+
+namespace zel::solver {
+namespace {
+
+constexpr double Unknown = std::numeric_limits<double>::quiet_NaN();
+
+bool known(double v) {
+    return !std::isnan(v);
+}
+
+double apply(double (*f)(double), double v) {
+    return f != nullptr ? f(v) : v;
+}
+
+Quantities nothingKnown() {
+    Quantities q;
+    q.fill(Unknown);
+    return q;
+}
+
+} // namespace
+
+void propagate(const Model& model, Quantities& q) {
+    for (bool changed = true; changed;) {
+        changed = false;
+        for (const Relation& relation : model.relations) {
+            std::array<double, 3> values{};
+            int missing = -1;
+            int unknowns = 0;
+            for (int i = 0; i < 3; ++i) {
+                const int quantity = relation.quantities[static_cast<std::size_t>(i)];
+                values[static_cast<std::size_t>(i)] =
+                    quantity < 0 ? 0 : q[static_cast<std::size_t>(quantity)];
+                if (quantity >= 0 && !known(q[static_cast<std::size_t>(quantity)])) {
+                    missing = i;
+                    ++unknowns;
+                }
+            }
+            if (unknowns != 1) {
+                continue;
+            }
+            const double v = relation.solve(missing, values);
+            if (std::isfinite(v)) {
+                q[static_cast<std::size_t>(
+                    relation.quantities[static_cast<std::size_t>(missing)])] = v;
+                changed = true;
+            }
+        }
+    }
+}
+
+Report solve(const Model& model, PageSheet& page, double x, int inputRow) {
+    const Link& typed = model.rows[static_cast<std::size_t>(inputRow - 1)];
+    if ((x < 0 && typed.sign != Sign::Any) || (x == 0 && typed.sign == Sign::Positive)) {
+        return Report::beep();
+    }
+    if (x < typed.low || x > typed.high || (typed.openHigh && x == typed.high) ||
+        !std::isfinite(apply(typed.fromRow, x))) {
+        return Report::warning(typed.outOfRange);
+    }
+
+    // The givens, newest first: the typed row, then those typed before it.
+    std::vector<int> givens{inputRow};
+    for (int row : page.givens()) {
+        if (row != inputRow) {
+            givens.push_back(row);
+        }
+    }
+    auto valueOf = [&](int row) {
+        const Link& link = model.rows[static_cast<std::size_t>(row - 1)];
+        return apply(link.fromRow, row == inputRow ? x : page.value(row));
+    };
+    Quantities q = nothingKnown();
+    std::vector<int> taken;
+    for (int row : givens) {
+        const Link& link = model.rows[static_cast<std::size_t>(row - 1)];
+        if (link.group != 0) {
+            // One given per group: a newer one of the same group was taken.
+            bool groupTaken = false;
+            for (int t : taken) {
+                groupTaken =
+                    groupTaken || model.rows[static_cast<std::size_t>(t - 1)].group == link.group;
+            }
+            if (groupTaken) {
+                continue;
+            }
+        } else {
+            Quantities closure = q;
+            propagate(model, closure);
+            const bool follows = known(closure[static_cast<std::size_t>(link.quantity)]);
+            if (follows || static_cast<int>(taken.size()) >= model.freedom) {
+                continue;
+            }
+        }
+        q[static_cast<std::size_t>(link.quantity)] = valueOf(row);
+        taken.push_back(row);
+    }
+    propagate(model, q);
+    for (const Default& d : model.defaults) {
+        if (!known(q[static_cast<std::size_t>(d.quantity)]) &&
+            (d.unlessKnown < 0 || !known(q[static_cast<std::size_t>(d.unlessKnown)]))) {
+            q[static_cast<std::size_t>(d.quantity)] = d.value;
+            propagate(model, q);
+        }
+    }
+    if (model.check != nullptr) {
+        if (const auto warning = model.check(q)) {
+            return Report::warning(*warning);
+        }
+    }
+
+    // Every row from its quantity; a typed row that counts keeps what was typed.
+    for (int row = 1; row <= PageSheet::Rows; ++row) {
+        const Link& link = model.rows[static_cast<std::size_t>(row - 1)];
+        if (link.quantity < 0) {
+            continue;
+        }
+        const double v = q[static_cast<std::size_t>(link.quantity)];
+        if (row == inputRow) {
+            page.setValue(row, x);
+        } else if (std::find(taken.begin(), taken.end(), row) != taken.end()) {
+            continue; // an older given that still counts keeps what was typed
+        } else if (known(v) && std::isfinite(apply(link.toRow, v))) {
+            page.setValue(row, apply(link.toRow, v));
+        } else {
+            page.clear(row);
+        }
+        if (row != inputRow) {
+            page.forgetGiven(row); // computed now, whether typed before or not
+        }
+    }
+    page.markGiven(inputRow);
+    return {};
+}
+
+} // namespace zel::solver

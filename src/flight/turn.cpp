@@ -1,0 +1,137 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 zelFLIGHTAB developers
+#include "flight/planning.h"
+#include "flight/solver.h"
+
+#include <cmath>
+#include <numbers>
+
+namespace zel {
+namespace {
+
+using namespace solver;
+
+constexpr double G0 = 9.80665; // m/s²
+constexpr double MetresPerSecondPerKnot = 1852.0 / 3600;
+constexpr double MetresPerNauticalMile = 1852;
+
+enum Quantity { Tas, Bank, Rate, Radius };
+
+double radians(double degrees) {
+    return degrees * std::numbers::pi / 180;
+}
+double degrees(double radians) {
+    return radians * 180 / std::numbers::pi;
+}
+
+/// In a coordinated level turn the lift's sideways part turns the aircraft:
+/// rate = g0 x tan(bank) / speed.
+double rate(int target, const std::array<double, 3>& v) {
+    const double speed = v[0] * MetresPerSecondPerKnot;
+    const double bank = radians(v[1]);
+    const double omega = radians(v[2]);
+    switch (target) {
+    case 0:
+        return G0 * std::tan(bank) / omega / MetresPerSecondPerKnot;
+    case 1:
+        return degrees(std::atan(omega * speed / G0));
+    default:
+        return degrees(G0 * std::tan(bank) / speed);
+    }
+}
+
+/// Radius = speed / rate.
+double radiusOfRate(int target, const std::array<double, 3>& v) {
+    const double speed = v[0] * MetresPerSecondPerKnot;
+    const double omega = radians(v[1]);
+    const double radius = v[2] * MetresPerNauticalMile;
+    switch (target) {
+    case 0:
+        return radius * omega / MetresPerSecondPerKnot;
+    case 1:
+        return degrees(speed / radius);
+    default:
+        return speed / omega / MetresPerNauticalMile;
+    }
+}
+
+/// Radius = speed² / (g0 x tan(bank)): speed and radius give the bank.
+double radiusOfBank(int target, const std::array<double, 3>& v) {
+    const double speed = v[0] * MetresPerSecondPerKnot;
+    const double bank = radians(v[1]);
+    const double radius = v[2] * MetresPerNauticalMile;
+    switch (target) {
+    case 0:
+        return std::sqrt(radius * G0 * std::tan(bank)) / MetresPerSecondPerKnot;
+    case 1:
+        return degrees(std::atan(speed * speed / (G0 * radius)));
+    default:
+        return speed * speed / (G0 * std::tan(bank)) / MetresPerNauticalMile;
+    }
+}
+
+double toMetres(double nm) {
+    return nm * MetresPerNauticalMile;
+}
+double fromMetres(double m) {
+    return m / MetresPerNauticalMile;
+}
+/// Seconds for a full circle, from degrees per second, and back.
+double fullCircle(double rate) {
+    return 360 / rate;
+}
+/// The load factor: 1 / cos(bank).
+double toLoad(double bank) {
+    return 1 / std::cos(radians(bank));
+}
+double fromLoad(double n) {
+    return degrees(std::acos(1 / n));
+}
+/// The stall speed grows with the root of the load factor.
+double toStallIncrease(double bank) {
+    return 100 * (std::sqrt(toLoad(bank)) - 1);
+}
+double fromStallIncrease(double percent) {
+    const double root = 1 + percent / 100;
+    return fromLoad(root * root);
+}
+
+constexpr std::string_view BadBank = "Invalid bank angle (range 0 - 90°)";
+
+std::optional<std::string_view> level(const Quantities& q) {
+    if (!std::isnan(q[Bank]) && !(q[Bank] > 0 && q[Bank] < 90)) {
+        return BadBank;
+    }
+    return std::nullopt;
+}
+
+constexpr Relation Relations[] = {
+    {{Tas, Bank, Rate}, rate},
+    {{Tas, Rate, Radius}, radiusOfRate},
+    {{Tas, Bank, Radius}, radiusOfBank},
+};
+
+// The bank is one quantity with the load factor and the stall speed increase;
+// so is the rate with the time for a full circle, and the radius in either unit.
+constexpr Model Turn{
+    .rows = {{{Tas},
+              {Bank, Sign::Positive, nullptr, nullptr, 0, 0, 90, true, BadBank},
+              {Rate},
+              {Radius},
+              {Radius, Sign::Positive, toMetres, fromMetres},
+              {Rate, Sign::Positive, fullCircle, fullCircle},
+              {Bank, Sign::Positive, toLoad, fromLoad, 0, 0, 1e300, false, BadBank},
+              {Bank, Sign::Positive, toStallIncrease, fromStallIncrease, 0, 0, 1e300, false,
+               BadBank}}},
+    .relations = Relations,
+    .freedom = 2,
+    .check = level,
+};
+
+} // namespace
+
+Report Convert_Turn(PageSheet& page, double x, int& inputRow) {
+    return solve(Turn, page, x, inputRow);
+}
+
+} // namespace zel

@@ -1,0 +1,298 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 zelFLIGHTAB developers
+// Runway condition reports as pilots get them today. Since November 2021 a
+// SNOWTAM reports each runway in the ICAO Global Reporting Format: for each
+// third of the runway a runway condition code (RWYCC 0..6), the part covered,
+// the depth and the contaminant. Some states still send the old eight-figure
+// runway-state group, inside their METARs as R24L/290140.
+#include "snowtam/snowtam.h"
+
+#include <algorithm>
+#include <array>
+#include <optional>
+#include <vector>
+
+namespace zel {
+namespace {
+
+constexpr std::string_view NotAReport = "Not a runway condition report";
+
+/// The runway condition code of a third, with its braking action.
+constexpr std::array<std::string_view, 7> ConditionCodes{
+    "0 Less than Poor", "1 Poor", "2 Medium-Poor", "3 Medium", "4 Good-Medium", "5 Good", "6 Dry"};
+
+struct Contaminant {
+    std::string_view name;   ///< as the report writes it
+    std::string_view short_; ///< as the page shows it
+};
+
+/// Longest names first, so that "DRY SNOW ON TOP OF ICE" is not read as "DRY".
+constexpr std::array<Contaminant, 17> Contaminants{{
+    {"SPECIALLY PREPARED WINTER RUNWAY", "Prepared Winter"},
+    {"DRY SNOW ON TOP OF COMPACTED SNOW", "Dry Snow/Compacted"},
+    {"WET SNOW ON TOP OF COMPACTED SNOW", "Wet Snow/Compacted"},
+    {"WATER ON TOP OF COMPACTED SNOW", "Water/Compacted"},
+    {"DRY SNOW ON TOP OF ICE", "Dry Snow/Ice"},
+    {"WET SNOW ON TOP OF ICE", "Wet Snow/Ice"},
+    {"COMPACTED SNOW", "Compacted"},
+    {"STANDING WATER", "Water"},
+    {"SLIPPERY WET", "Slippery Wet"},
+    {"DRY SNOW", "Dry Snow"},
+    {"WET SNOW", "Wet Snow"},
+    {"WET ICE", "Wet Ice"},
+    {"SLUSH", "Slush"},
+    {"FROST", "Frost"},
+    {"DRY", "Dry"},
+    {"WET", "Wet"},
+    {"ICE", "Ice"},
+}};
+
+/// The page's own captions, for a GRF report.
+constexpr std::array<std::string_view, 9> GrfUnits{
+    "",        "Runway",       "Assessed - UTC", "Touchdown",  "Midpoint",
+    "Rollout", "Coverage - %", "Depth - mm",     "Contaminant"};
+
+bool isDigit(char c) {
+    return c >= '0' && c <= '9';
+}
+
+bool allDigits(std::string_view text) {
+    return std::all_of(text.begin(), text.end(), isDigit);
+}
+
+/// The text split at blanks and line breaks; several count as one.
+std::vector<std::string_view> groupsOf(std::string_view text) {
+    std::vector<std::string_view> groups;
+    std::size_t at = 0;
+    while (at < text.size()) {
+        const auto start = text.find_first_not_of(" \t\r\n", at);
+        if (start == std::string_view::npos) {
+            break;
+        }
+        const auto end = std::min(text.find_first_of(" \t\r\n", start), text.size());
+        groups.push_back(text.substr(start, end - start));
+        at = end;
+    }
+    return groups;
+}
+
+/// The three parts of "a/b/c", or nothing.
+std::optional<std::array<std::string_view, 3>> thirds(std::string_view group) {
+    const auto first = group.find('/');
+    const auto second = first == std::string_view::npos ? first : group.find('/', first + 1);
+    if (second == std::string_view::npos || group.find('/', second + 1) != std::string_view::npos) {
+        return std::nullopt;
+    }
+    return std::array{group.substr(0, first), group.substr(first + 1, second - first - 1),
+                      group.substr(second + 1)};
+}
+
+/// A runway designator: 01 to 36, then L, C or R if the runway has a twin.
+bool isRunway(std::string_view group) {
+    const std::string_view number = group.substr(0, 2);
+    if (group.size() < 2 || group.size() > 3 || !allDigits(number) || number < "01" ||
+        number > "36") {
+        return false;
+    }
+    return group.size() == 2 || std::string_view("LCR").find(group[2]) != std::string_view::npos;
+}
+
+bool isConditionCodes(std::string_view group) {
+    const auto parts = thirds(group);
+    return parts && std::all_of(parts->begin(), parts->end(), [](std::string_view p) {
+               return p.size() == 1 && p[0] >= '0' && p[0] <= '6';
+           });
+}
+
+/// The date and time of an assessment, MMDDhhmm in UTC, as "02-17 00:55".
+std::optional<std::string> assessed(std::string_view group) {
+    if (group.size() != 8 || !allDigits(group)) {
+        return std::nullopt;
+    }
+    const auto two = [&](std::size_t at) { return (group[at] - '0') * 10 + (group[at + 1] - '0'); };
+    if (two(0) < 1 || two(0) > 12 || two(2) < 1 || two(2) > 31 || two(4) > 23 || two(6) > 59) {
+        return std::nullopt;
+    }
+    return std::string(group.substr(0, 2)) + "-" + std::string(group.substr(2, 2)) + " " +
+           std::string(group.substr(4, 2)) + ":" + std::string(group.substr(6, 2));
+}
+
+/// "a / b / c" when each part is allowed, else nothing.
+template <typename Allowed>
+std::optional<std::string> listed(std::string_view group, Allowed allowed) {
+    const auto parts = thirds(group);
+    if (!parts || !std::all_of(parts->begin(), parts->end(), allowed)) {
+        return std::nullopt;
+    }
+    return std::string((*parts)[0]) + " / " + std::string((*parts)[1]) + " / " +
+           std::string((*parts)[2]);
+}
+
+/// The three contaminants at the start of `text` ("WET/DRY SNOW ON TOP OF
+/// ICE/SLUSH ..."), shown short, and what follows them.
+std::optional<std::pair<std::string, std::string_view>> contaminants(std::string_view text) {
+    std::string shown;
+    for (int third = 0; third < 3; ++third) {
+        const auto match =
+            std::find_if(Contaminants.begin(), Contaminants.end(), [&](const Contaminant& c) {
+                const std::string_view after = text.substr(std::min(c.name.size(), text.size()));
+                return text.starts_with(c.name) &&
+                       (after.empty() || after[0] == ' ' || (third < 2 && after[0] == '/'));
+            });
+        if (match == Contaminants.end()) {
+            return std::nullopt;
+        }
+        shown += (third > 0 ? " / " : "") + std::string(match->short_);
+        text.remove_prefix(match->name.size());
+        if (third < 2) {
+            if (!text.starts_with('/')) {
+                return std::nullopt;
+            }
+            text.remove_prefix(1);
+        }
+    }
+    return std::pair{shown, text};
+}
+
+using Rows = std::array<std::pair<std::string, std::string>, PageSheet::Rows + 1>;
+
+/// A GRF runway report starting at group `at` (its runway designator), with
+/// the assessment time before it if there is one.
+std::optional<Rows> grfReport(const std::vector<std::string_view>& groups, std::size_t at,
+                              const std::string& time) {
+    if (at + 4 > groups.size() || !isRunway(groups[at]) || !isConditionCodes(groups[at + 1])) {
+        return std::nullopt;
+    }
+    const auto coverage = listed(groups[at + 2], [](std::string_view p) {
+        return p == "NR" || p == "25" || p == "50" || p == "75" || p == "100";
+    });
+    const auto depth = listed(groups[at + 3], [](std::string_view p) {
+        return p == "NR" || (p.size() >= 2 && p.size() <= 3 && allDigits(p));
+    });
+    // The contaminants may hold blanks: they are read from the text that follows.
+    std::string rest;
+    for (std::size_t g = at + 4; g < groups.size(); ++g) {
+        rest += (rest.empty() ? "" : " ") + std::string(groups[g]);
+    }
+    const auto contaminant = contaminants(rest);
+    if (!coverage || !depth || !contaminant) {
+        return std::nullopt;
+    }
+    std::string runway(groups[at]);
+    // A width in metres after the contaminants: the codes apply to it only.
+    const std::vector<std::string_view> after = groupsOf(contaminant->second);
+    if (!after.empty() && after[0].size() >= 2 && after[0].size() <= 3 && allDigits(after[0])) {
+        runway += " width " + std::string(after[0]) + " m";
+    }
+    const auto codes = thirds(groups[at + 1]);
+    Rows rows;
+    for (std::size_t row = 1; row < rows.size(); ++row) {
+        rows[row].first = std::string(GrfUnits[row]);
+    }
+    rows[1].second = runway;
+    rows[2].second = time;
+    for (std::size_t third = 0; third < 3; ++third) {
+        const auto code = static_cast<std::size_t>((*codes)[third][0] - '0');
+        rows[third + 3].second = std::string(ConditionCodes[code]);
+    }
+    rows[6].second = *coverage;
+    rows[7].second = *depth;
+    rows[8].second = contaminant->first;
+    return rows;
+}
+
+/// The captions of the eight-figure group's page.
+Rows stateRows() {
+    Rows rows;
+    const std::array<std::string_view, 9> units{"",
+                                                "Runway",
+                                                "Type of Deposit",
+                                                "",
+                                                "Extent of Deposit",
+                                                "",
+                                                "Depth of Deposit",
+                                                "Brake Coefficient",
+                                                "Braking Action"};
+    for (std::size_t row = 1; row < rows.size(); ++row) {
+        rows[row].first = std::string(units[row]);
+    }
+    return rows;
+}
+
+bool isStateCharacters(std::string_view text) {
+    return std::all_of(text.begin(), text.end(), [](char c) { return isDigit(c) || c == '/'; });
+}
+
+} // namespace
+
+Report Convert_RunwayCondition(PageSheet& page, std::string_view text) {
+    page.reset();
+    const std::vector<std::string_view> groups = groupsOf(text);
+    auto show = [&page](const Rows& rows) {
+        for (int row = 1; row <= PageSheet::Rows; ++row) {
+            page[row].unit = rows[static_cast<std::size_t>(row)].first;
+            page[row].caption = rows[static_cast<std::size_t>(row)].second;
+        }
+        sizeCaptions(page);
+        return Report{};
+    };
+    for (std::size_t at = 0; at < groups.size(); ++at) {
+        const std::string_view group = groups[at];
+        // A GRF report, with or without the time of its assessment before it.
+        if (const auto time = assessed(group)) {
+            if (const auto rows = grfReport(groups, at + 1, *time)) {
+                return show(*rows);
+            }
+        }
+        if (const auto rows = grfReport(groups, at, "")) {
+            return show(*rows);
+        }
+        // The METAR group: R, the runway, "/", then six figures, CLRD and the
+        // braking once contamination has ceased, or SNOCLO.
+        const auto slash = group.find('/');
+        const std::string_view runway = group.starts_with('R') && slash != std::string_view::npos
+                                            ? group.substr(1, slash - 1)
+                                            : std::string_view("-");
+        const bool runwayShape =
+            runway.empty() || isRunway(runway) || runway == "88" || runway == "99";
+        const std::string_view state = runwayShape
+                                           ? group.substr(slash + 1)
+                                           : std::string_view(group == "SNOCLO" ? group : "");
+        Rows rows = stateRows();
+        rows[1].second = runway.empty() || runway == "88" || (!runwayShape && state == "SNOCLO")
+                             ? "All RWY"
+                         : runway == "99" ? "Previous Report"
+                                          : std::string(runway);
+        if (state == "SNOCLO") {
+            rows[2].second = "Closed by snow";
+            return show(rows);
+        }
+        if (runwayShape && !runway.empty() && state.size() == 6 && state.starts_with("CLRD") &&
+            isStateCharacters(state.substr(4))) {
+            show(rows);
+            page[2].caption = "Contamination cleared";
+            writeBraking(page, state.substr(4));
+            sizeCaptions(page);
+            return {};
+        }
+        if (runwayShape && !runway.empty() && state.size() == 6 && isStateCharacters(state)) {
+            show(rows);
+            writeStateGroup(page, state);
+            sizeCaptions(page);
+            return {};
+        }
+        // The plain eight-figure group, read as the Snowtam page reads it; a
+        // coverage or depth of a report ("50/50/50") is not one.
+        const bool thirdsShape = thirds(group) && group[2] == '/' && group[5] == '/';
+        if (group.size() == 8 && isStateCharacters(group) && !thirdsShape) {
+            show(rows);
+            return Convert_Snowtam(page, group);
+        }
+    }
+    for (int row = 1; row <= PageSheet::Rows; ++row) {
+        page[row].unit = std::string(GrfUnits[static_cast<std::size_t>(row)]);
+    }
+    return Report::warning(NotAReport);
+}
+
+} // namespace zel
