@@ -27,6 +27,8 @@ TEST(Profile, ReadsOneKeyTheWayWindowsDoes) {
         {"a comment is no key", "[Rates]\n;EUR=2\nEUR=1\n", "Rates", "EUR", "1"},
         {"the first section of a name counts", "[A]\nk=1\n[A]\nk=2\n", "A", "k", "1"},
         {"a byte-order mark is skipped", "\xEF\xBB\xBF[A]\nk=1", "A", "k", "1"},
+        {"an overlong sequence is no UTF-8", "[A]\nk=\xE0\x80\x80", "A", "k",
+         "\xC3\xA0\xE2\x82\xAC\xE2\x82\xAC"},
         {"an ANSI file is read as code page 1252",
          "[A]\nk=Qu\xE9"
          "bec \x80\n",
@@ -104,6 +106,7 @@ TEST(RatePages, ReadsTheEcbFeedOnlyWhenWellFormed) {
     const std::pair<const char*, std::string> broken[] = {
         {"cut off", feed.substr(0, feed.size() / 2)},
         {"a rate that is no number", R"(<Cube><Cube currency='USD' rate='1,07'/></Cube>)"},
+        {"a rate without a figure", R"(<Cube><Cube currency='USD' rate='.'/></Cube>)"},
         {"unmatched end tag", "<a><b></a></b>"},
         {"unquoted attribute", "<a><Cube currency=USD rate='1'/></a>"},
         {"text outside the document", "<a/>junk"},

@@ -41,6 +41,19 @@ TEST(GeneralText, WritesFifteenDigitsAndExponentForms) {
     }
 }
 
+TEST(ExponentText, RoundsToTheDigitsThatFit) {
+    const std::tuple<double, int, const char*> cases[] = {
+        {220499999999997795.0, 15, "2,20499999999998E+17"},
+        {220499999999997795.0, 4, "2,205E+17"},
+        {1e26, 15, "1E+26"},
+        {-1.5e-7, 3, "-1,5E-07"},
+        {123, 1, "1E+02"},
+    };
+    for (const auto& [value, digits, text] : cases) {
+        EXPECT_EQ(exponentText(value, digits, Comma), text) << value;
+    }
+}
+
 TEST(SingleText, WritesSevenDigits) {
     const std::pair<float, const char*> cases[] = {
         {101.980392f, "101.9804"}, {90.0f, "90"},       {1e7f, "1E+07"},

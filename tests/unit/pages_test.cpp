@@ -69,6 +69,19 @@ TEST(Speed, ClassifiesOnTheBeaufortScale) {
         {"no negative speeds", Speed, "-3@2", "2=0 | !beep"},
     };
     check(cases);
+    // Each band's top in whole km/h, and each force's speed when typed.
+    const int tops[] = {1, 5, 11, 19, 28, 38, 49, 61, 74, 88, 102, 117};
+    const char* speeds[] = {"5",  "11", "19", "28",  "38",  "49",
+                            "61", "74", "88", "102", "117", "133"};
+    for (int force = 1; force <= 12; ++force) {
+        const auto top = std::to_string(tops[force - 1]);
+        const auto f = std::to_string(force);
+        check({"the top of a band", Speed, (top + ".4@1").c_str(),
+               ("7:" + std::to_string(force - 1)).c_str()});
+        check({"just above it", Speed, (top + ".5@1").c_str(), ("7:" + f).c_str()});
+        check({"a force typed", Speed, (f + "@7").c_str(),
+               (std::string("1=") + speeds[force - 1]).c_str()});
+    }
 }
 
 TEST(FuelUplift, AddsUpliftTimesDensityToTheRemainingFuel) {
@@ -121,6 +134,7 @@ TEST(FuelRange, SolvesRangeInTheOrderOfEntry) {
         {"no negative range", FuelRange, "-1@8", "8=0 | !beep"},
         // The range is written before the fault and kept, but nothing is drawn
         // and the entry stays.
+        {"half a knot", FuelRange, "600@1 200@2 0.5@7", "8=1.5"},
         {"no ground speed: the division by zero stops the click", FuelRange, "30@4 300@8",
          "8=300 | 8: | >4 | #300. | !critical zelFLIGHTAB: Division by zero"},
     };
@@ -149,6 +163,8 @@ TEST(MachAS, ReproducesTheReferenceValues) {
          "35000@1 0.78@2 -20@5 0.78@2 250@4", "5=-20 | 3=-45.0755747824652 | 2=0.741433416763082"},
         {"temperatures alone give the Mach", MachAS, "-50@3 -20@5 400@8",
          "2=0.819874131653405 | 8=477.212833199254"},
+        {"SAT and TAS give the Mach", MachAS, "-20@3 300@8",
+         "2=0.483911345222294 | 4=319.984198701321 | 5=-8.14396327853552"},
         {"no negative speed", MachAS, "-5@4", "4=0 | !beep"},
         {"below absolute zero", MachAS, "-300@3 0.5@2", "2=0 | !beep"},
         {"a probe colder than the air", MachAS, "-20@3 -30@5 250@4", "4=0 | 5=-30 | !beep"},
@@ -160,6 +176,10 @@ TEST(WindPage, SolvesTheTriangleAndShowsSidesAndComponents) {
     const Scenario cases[] = {
         {"heading and wind give course and ground speed", Wind, "90@1 100@2 360@5 20@6",
          "4=101.9804 | 1:090 | 3:101 | 5:360 | 7:R 11.31 | 8:T 1.98"},
+        {"a headwind from the right", Wind, "90@1 100@2 45@5 20@6",
+         "3=99.35353 | 4=87.01479 | 7=9.353526 | 8=-12.98521"},
+        {"the wind from the left-hand side", Wind, "90@1 100@2 80@3 110@4",
+         "5=203.5589 | 6=20.83817 | 7=-9.999998 | 7:L 10.00"},
         {"course and wind give heading and ground speed", Wind, "90@3 100@2 360@5 20@6",
          "1=78.46304 | 4=97.97959 | 8=-2.020409"},
         {"the TAS follows a known ground speed", Wind, "90@3 97.9796@4 360@5 20@6",
@@ -220,6 +240,17 @@ TEST(Snowtam, DecodesEachFieldByItself) {
         {"01000099", "7:(unreliable) | 8:(not reported)"},
         {"01000097", "7: | 8:"},
         {"01009393", "6:150 mm | 7:0.30 - 0.35 | 8:Medium"},
+        {"50290140", "1:00R"},
+        {"01000025", "8:Poor"},
+        {"01000026", "7:0.26 | 8:Medium-Poor"},
+        {"01000030", "8:Medium"},
+        {"01000035", "8:Medium"},
+        {"01000036", "8:Medium-Good"},
+        {"01000039", "8:Medium-Good"},
+        {"01000090", "7:0.90 | 8:Good"},
+        {"01000091", "7:0 - 0.25 | 8:Poor"},
+        {"01000092", "7:0.26 - 0.29 | 8:Medium-Poor"},
+        {"01000094", "7:0.36 - 0.39 | 8:Medium-Good"},
     };
     for (const auto& [group, expect] : cases) {
         // Typed and decoded with a click on any row.

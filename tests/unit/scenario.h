@@ -30,6 +30,7 @@ inline std::string trimmed(std::string text) {
 }
 
 inline void check(const Scenario& c) {
+    const std::string name = std::string(c.name) + " [" + c.entries + "]";
     Calculator calc(c.symbols, c.page);
     std::istringstream entries(c.entries);
     for (std::string entry; entries >> entry;) {
@@ -46,17 +47,17 @@ inline void check(const Scenario& c) {
         } else if (item.starts_with('>')) {
             for (int row = 1; row <= PageSheet::Rows; ++row) {
                 EXPECT_EQ(calc.menu.row(row).input, row == std::stoi(item.substr(1)))
-                    << c.name << ", input row " << row;
+                    << name << ", input row " << row;
             }
         } else if (item.starts_with('#')) {
-            EXPECT_EQ(calc.menu.display(), item.substr(1)) << c.name;
+            EXPECT_EQ(calc.menu.display(), item.substr(1)) << name;
         } else if (mark != std::string::npos) {
             const int row = std::stoi(item.substr(0, mark));
             EXPECT_EQ(item[mark] == '=' ? calc.tag(row) : calc.caption(row), item.substr(mark + 1))
-                << c.name << ", " << item;
+                << name << ", " << item;
         }
     }
-    EXPECT_EQ(calc.ui.events, events) << c.name;
+    EXPECT_EQ(calc.ui.events, events) << name;
 }
 
 template <std::size_t N> void check(const Scenario (&cases)[N]) {

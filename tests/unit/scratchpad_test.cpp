@@ -68,6 +68,7 @@ TEST(ScratchPad, ShowsWhatAPocketCalculatorShows) {
         {"backspace to nothing", Dot, "5<", "0.", 18},
         {"no precedence", Dot, "2+3x4=", "20.", 18},
         {"an operator key shows the running result", Dot, "5ms", "25.", 18},
+        {"subtract", Dot, "9s4=", "5.", 18},
         {"a typed operator first clears the entry", Dot, "5x-", "-0.", 18},
         {"minus on an empty entry starts a negative", Dot, "-7", "-7.", 18},
         {"negative decimal", Dot, "-.5", "-0.5", 18},
