@@ -26,6 +26,7 @@ class Silent : public zel::Interaction,
     zel::FileRead read(const std::string&) override { return {}; }
     bool write(const std::string&, std::string_view) override { return false; }
     void remove(const std::string&) override {}
+    bool update(const std::string&, const Change&) override { return false; }
     bool connected(std::string&) override { return false; }
     zel::HttpReply get(const std::string&) override { return {}; }
     std::chrono::year_month_day today() override {

@@ -3,13 +3,15 @@
 #include "app/catalogue.h"
 
 #include "convert/convert.h"
+#include "currency/pages.h"
 #include "flight/pages.h"
 #include "snowtam/snowtam.h"
 
 namespace zel {
 
 const PageCatalogue& pageCatalogue() {
-    static const PageCatalogue catalogue{unitPages(), flightPages(), snowtamPages()};
+    static const PageCatalogue catalogue{unitPages(), flightPages(), snowtamPages(),
+                                         currencyPages()};
     return catalogue;
 }
 

@@ -7,7 +7,7 @@
 namespace zel {
 
 /// Every page of the menu, from the tables of the unit converters, the flight
-/// calculators and the runway-state decoder.
+/// calculators, the runway-state decoders and the currency page.
 const PageCatalogue& pageCatalogue();
 
 } // namespace zel

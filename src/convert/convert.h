@@ -22,7 +22,7 @@ Report Convert_Angle(PageSheet& page, double inputValue, int& inputRow);
 Report Convert_Speed(PageSheet& page, double inputValue, int& inputRow);
 
 /// The unit converter pages: Weight, Fluid, Surface, Speed, Distance, Angle,
-/// Temperature, Pressure, Power and Currency.
+/// Temperature, Pressure and Power.
 std::span<const PageTable> unitPages();
 
 } // namespace zel

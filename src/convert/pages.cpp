@@ -11,7 +11,7 @@ namespace {
 // stand: 2205 pounds per metric ton rather than 2204.62, 1.851999692 km per
 // nautical mile rather than 1.852, 0.27777777778 m/s per km/h. The row values
 // users compare with their charts depend on these exact literals.
-constexpr std::array<PageTable, 10> Pages{{
+constexpr std::array<PageTable, 9> Pages{{
     {.number = 1,
      .name = "Weight", // base: metric ton
      .rows = {{{"kilogram - kg", 1000},
@@ -120,18 +120,6 @@ constexpr std::array<PageTable, 10> Pages{{
      .convert = Convert_Standard,
      .functionKey = 9,
      .keyCaption = "F9"},
-    {.number = 18,
-     .name = "Currency", // the factors and row 8 come from the rate store
-     .rows = {{{"Australian $ - AUD"},
-               {"Canadian $ - CAD"},
-               {"Euro - EUR"},
-               {"Indian Rupee - INR"},
-               {"Japan Yen - JPY"},
-               {"UK Pound - GBP"},
-               {"US Dollar - USD"}}},
-     .convert = Convert_Standard,
-     .rateStore = true,
-     .keyCaption = "F12"}, // drawn here, although F12 opens Wind Comp
 }};
 
 } // namespace

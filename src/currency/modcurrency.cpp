@@ -6,6 +6,7 @@
 #include "currency/ratepages.h"
 
 #include <limits>
+#include <vector>
 
 namespace zel {
 namespace {
@@ -88,13 +89,15 @@ std::string ModCurrency::ReadIni(std::string_view section, std::string_view key)
 }
 
 bool ModCurrency::WriteIni(std::string_view section, std::string_view key, std::string_view value) {
-    const std::string path = settingsFile();
-    const FileRead file = m_platform.storage.read(path);
-    // Writing over a file that could not be read would lose what it holds.
-    const bool saved = file.status != FileRead::Status::Unreadable && [&] {
-        const std::string changed = profile::write(file.bytes, section, key, value);
-        return changed == file.bytes || m_platform.storage.write(path, changed);
-    }();
+    // The file is read again under the lock, so that a key another window
+    // wrote meanwhile is kept.
+    const bool saved = m_platform.storage.update(
+        settingsFile(), [&](const FileRead& file) -> std::optional<std::string> {
+            if (file.status == FileRead::Status::Unreadable) {
+                return std::nullopt; // writing over it would lose what it holds
+            }
+            return profile::write(file.bytes, section, key, value);
+        });
     m_unsaved = m_unsaved || !saved;
     return saved;
 }
@@ -130,9 +133,9 @@ std::array<float, 8> ModCurrency::LoadRates(const Symbols& symbols) {
             // Rates are stored with "." whatever the machine's decimal symbol.
             text += c == '.' ? symbols.decimal : std::string(1, c);
         }
-        const double value = ToNumber(text, symbols);
         // Units per euro: anything that is not a positive single-precision
-        // number is no rate.
+        // number is no rate, and converts nothing. The euro is one euro.
+        const double value = code == "EUR" && text.empty() ? 1 : ToNumber(text, symbols);
         rates[row] = value > 0 && value <= std::numeric_limits<float>::max()
                          ? static_cast<float>(value)
                          : 0.0f;
@@ -203,10 +206,17 @@ ModCurrency::Source ModCurrency::source() {
 }
 
 std::string ModCurrency::sourceNote() {
-    const std::string_view from =
-        source() == Source::Converter ? "Google Finance" : "the European Central Bank";
-    return "Currency Rates are retrieved from " + std::string(from) +
-           ".\r\rPress the Rates button to download the latest rates...";
+    const bool converter = source() == Source::Converter;
+    const std::string stored = ReadIni(Rates, "Date");
+    const double day = ToNumber(stored, {});
+    const std::string rates = day > 0 && day < 2958466 // up to 31 December 9999
+                                  ? "Rates of " + dayText(static_cast<int>(day)) + " (" +
+                                        (converter ? "Google Finance" : "European Central Bank") +
+                                        ")"
+                                  : "No rates stored yet";
+    return "Currency Rates are retrieved from " +
+           std::string(converter ? "Google Finance" : "the European Central Bank") +
+           ".\r\rPress the Rates button to download the latest rates...\r\r" + rates;
 }
 
 void ModCurrency::cannotRead(std::string_view code) {
@@ -249,10 +259,14 @@ bool ModCurrency::fetchConverterRates(const std::array<std::string, 7>& codes) {
     auto keptPage = [&](const std::string& code) {
         return techFile("rate_" + fileSafe(code) + ".htm");
     };
+    // A transfer that failed has said so; its page is not read.
+    std::vector<std::string> fetched;
     for (const std::string& code : codes) {
-        DownloadFile(base + "?a=1&from=EUR&to=" + percentEncode(code), keptPage(code));
+        if (DownloadFile(base + "?a=1&from=EUR&to=" + percentEncode(code), keptPage(code))) {
+            fetched.push_back(code);
+        }
     }
-    for (const std::string& code : codes) {
+    for (const std::string& code : fetched) {
         const FileRead page = m_platform.storage.read(keptPage(code));
         const auto rate =
             page.status == FileRead::Status::Ok ? cutConverterRate(page.bytes) : std::nullopt;
@@ -267,7 +281,7 @@ bool ModCurrency::fetchConverterRates(const std::array<std::string, 7>& codes) {
         // Stored as the page gives it, result or not: a text that is no number reads as 0.
         WriteIni(Rates, code, *rate);
     }
-    return true;
+    return fetched.size() == codes.size(); // the date says every rate was renewed
 }
 
 bool ModCurrency::fetchEcbRates(const std::array<std::string, 7>& codes) {
@@ -276,7 +290,9 @@ bool ModCurrency::fetchEcbRates(const std::array<std::string, 7>& codes) {
         url = DefaultEcbUrl;
     }
     const std::string kept = techFile("rate_ECB.xml");
-    DownloadFile(url, kept);
+    if (!DownloadFile(url, kept)) {
+        return false; // it said why; there is nothing to read
+    }
     const FileRead feed = m_platform.storage.read(kept);
     const auto rates =
         feed.status == FileRead::Status::Ok ? parseEcbFeed(feed.bytes) : std::nullopt;

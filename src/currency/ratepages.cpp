@@ -2,12 +2,14 @@
 // SPDX-FileCopyrightText: 2026 zelFLIGHTAB developers
 #include "currency/ratepages.h"
 
-#include <vector>
+#include <expat.h>
+
+#include <array>
+#include <limits>
+#include <memory>
 
 namespace zel {
 namespace {
-
-constexpr std::string_view XmlBlanks = " \t\r\n";
 
 bool isDigit(char c) {
     return c >= '0' && c <= '9';
@@ -39,63 +41,29 @@ std::string_view localName(std::string_view name) {
     return colon == std::string_view::npos ? name : name.substr(colon + 1);
 }
 
-/// A start tag's name and attributes, read from just after its "<".
-struct StartTag {
-    std::string_view name;
-    std::map<std::string_view, std::string_view> attributes;
-    bool empty = false;  ///< "<.../>"
-    std::size_t end = 0; ///< just after its ">"
+/// What the feed's reader gathers: each Cube element's currency and rate.
+struct FeedRates {
+    std::map<std::string, std::string> rates;
+    bool numbers = true; ///< every rate is a number
 };
 
-std::optional<StartTag> readStartTag(std::string_view xml, std::size_t at) {
-    StartTag tag;
-    const auto nameEnd = xml.find_first_of(" \t\r\n/>", at);
-    if (nameEnd == std::string_view::npos || nameEnd == at) {
-        return std::nullopt;
+void XMLCALL startElement(void* data, const XML_Char* name, const XML_Char** attributes) {
+    auto& feed = *static_cast<FeedRates*>(data);
+    if (localName(name) != "Cube") {
+        return;
     }
-    tag.name = xml.substr(at, nameEnd - at);
-    at = nameEnd;
-    while (true) {
-        at = xml.find_first_not_of(XmlBlanks, at);
-        if (at == std::string_view::npos) {
-            return std::nullopt;
+    const char* currency = nullptr;
+    const char* rate = nullptr;
+    for (const XML_Char** a = attributes; *a != nullptr; a += 2) {
+        if (std::string_view(a[0]) == "currency") {
+            currency = a[1];
+        } else if (std::string_view(a[0]) == "rate") {
+            rate = a[1];
         }
-        if (xml[at] == '>') {
-            tag.end = at + 1;
-            return tag;
-        }
-        if (xml.substr(at, 2) == "/>") {
-            tag.empty = true;
-            tag.end = at + 2;
-            return tag;
-        }
-        const auto equals = xml.find_first_of("= \t\r\n/>", at);
-        if (equals == std::string_view::npos || equals == at) {
-            return std::nullopt;
-        }
-        const std::string_view name = xml.substr(at, equals - at);
-        at = xml.find_first_not_of(XmlBlanks, equals);
-        if (at == std::string_view::npos || xml[at] != '=') {
-            return std::nullopt;
-        }
-        at = xml.find_first_not_of(XmlBlanks, at + 1);
-        if (at == std::string_view::npos || (xml[at] != '\'' && xml[at] != '"')) {
-            return std::nullopt;
-        }
-        const auto close = xml.find(xml[at], at + 1);
-        if (close == std::string_view::npos) {
-            return std::nullopt;
-        }
-        const std::string_view value = xml.substr(at + 1, close - at - 1);
-        if (value.find('<') != std::string_view::npos ||
-            !tag.attributes.emplace(name, value).second) {
-            return std::nullopt;
-        }
-        at = close + 1;
-        if (at < xml.size() && XmlBlanks.find(xml[at]) == std::string_view::npos &&
-            xml[at] != '>' && xml[at] != '/') {
-            return std::nullopt; // attributes must be apart
-        }
+    }
+    if (currency != nullptr && rate != nullptr) {
+        feed.numbers = feed.numbers && isRate(rate);
+        feed.rates.emplace(currency, rate);
     }
 }
 
@@ -132,72 +100,21 @@ std::optional<std::string> cutConverterRate(std::string_view page) {
 }
 
 std::optional<std::map<std::string, std::string>> parseEcbFeed(std::string_view xml) {
-    std::map<std::string, std::string> rates;
-    std::vector<std::string_view> open;
-    bool root = false;
-    std::size_t at = 0;
-    while (true) {
-        const auto lt = xml.find('<', at);
-        const std::string_view text = xml.substr(at, lt == std::string_view::npos ? lt : lt - at);
-        if (open.empty() && text.find_first_not_of(XmlBlanks) != std::string_view::npos) {
-            return std::nullopt; // text outside the document element
-        }
-        if (lt == std::string_view::npos) {
-            break;
-        }
-        const std::string_view rest = xml.substr(lt);
-        std::string_view close;
-        if (rest.starts_with("<?")) {
-            close = "?>";
-        } else if (rest.starts_with("<!--")) {
-            close = "-->";
-        } else if (rest.starts_with("<!")) {
-            close = ">";
-        }
-        if (!close.empty()) {
-            const auto end = xml.find(close, lt + 2);
-            if (end == std::string_view::npos) {
-                return std::nullopt;
-            }
-            at = end + close.size();
-            continue;
-        }
-        if (rest.starts_with("</")) {
-            const auto end = xml.find('>', lt);
-            if (end == std::string_view::npos || open.empty()) {
-                return std::nullopt;
-            }
-            const std::string_view name = xml.substr(lt + 2, end - lt - 2);
-            if (name.substr(0, name.find_last_not_of(XmlBlanks) + 1) != open.back()) {
-                return std::nullopt;
-            }
-            open.pop_back();
-            at = end + 1;
-            continue;
-        }
-        const auto tag = readStartTag(xml, lt + 1);
-        if (!tag || (open.empty() && root)) {
-            return std::nullopt; // a broken tag, or a second document element
-        }
-        root = true;
-        const auto currency = tag->attributes.find("currency");
-        const auto rate = tag->attributes.find("rate");
-        if (localName(tag->name) == "Cube" && currency != tag->attributes.end() &&
-            rate != tag->attributes.end()) {
-            if (!isRate(rate->second)) {
-                return std::nullopt;
-            }
-            rates.emplace(currency->second, rate->second);
-        }
-        if (!tag->empty) {
-            open.push_back(tag->name);
-        }
-        at = tag->end;
+    // Expat reads the whole feed and says whether it is well-formed XML.
+    const std::unique_ptr<XML_ParserStruct, decltype(&XML_ParserFree)> parser(
+        XML_ParserCreate("UTF-8"), XML_ParserFree);
+    if (!parser || xml.size() > static_cast<std::size_t>(std::numeric_limits<int>::max())) {
+        return std::nullopt;
     }
-    if (!root || !open.empty()) {
-        return std::nullopt; // empty, or cut off before its end
+    FeedRates feed;
+    XML_SetUserData(parser.get(), &feed);
+    XML_SetStartElementHandler(parser.get(), startElement);
+    if (XML_Parse(parser.get(), xml.data(), static_cast<int>(xml.size()), XML_TRUE) !=
+            XML_STATUS_OK ||
+        !feed.numbers) {
+        return std::nullopt;
     }
-    return rates;
+    return std::move(feed.rates);
 }
 
 std::string percentEncode(std::string_view text) {
@@ -228,10 +145,21 @@ std::string fileSafe(std::string_view text) {
     return out;
 }
 
+namespace {
+constexpr std::chrono::sys_days Epoch = std::chrono::year{1899} / std::chrono::December / 30;
+}
+
 int daySerial(std::chrono::year_month_day date) {
-    using namespace std::chrono;
-    constexpr sys_days Epoch = year{1899} / December / 30;
-    return static_cast<int>((sys_days{date} - Epoch).count());
+    return static_cast<int>((std::chrono::sys_days{date} - Epoch).count());
+}
+
+std::string dayText(int serial) {
+    static constexpr std::array<std::string_view, 12> Months{
+        "Jan", "Feb", "Mar", "Apr", "May", "Jun", "Jul", "Aug", "Sep", "Oct", "Nov", "Dec"};
+    const std::chrono::year_month_day date{Epoch + std::chrono::days(serial)};
+    return std::to_string(static_cast<unsigned>(date.day())) + " " +
+           std::string(Months[static_cast<unsigned>(date.month()) - 1]) + " " +
+           std::to_string(static_cast<int>(date.year()));
 }
 
 } // namespace zel

@@ -38,4 +38,7 @@ std::string fileSafe(std::string_view text);
 /// serial that the settings file's "Date" has always held: 1 January 2000 is 36526.
 int daySerial(std::chrono::year_month_day date);
 
+/// A day number as a pilot reads it: 45471 is "28 Jun 2024".
+std::string dayText(int serial);
+
 } // namespace zel

@@ -5,6 +5,7 @@
 #include "entry/numbertext.h"
 
 #include <chrono>
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -55,6 +56,16 @@ class Storage {
     virtual bool write(const std::string& path, std::string_view bytes) = 0;
     /// Deletes the file if it is there.
     virtual void remove(const std::string& path) = 0;
+    /// What a change makes of a file as it stands: its new bytes, or nothing
+    /// to leave it alone.
+    using Change = std::function<std::optional<std::string>(const FileRead& file)>;
+    /// Changes a file while holding a lock that every instance of the program
+    /// respects: reads it afresh, hands it to `change` and replaces it whole
+    /// with the result, so that two windows writing at once never lose each
+    /// other's changes. False when the lock could not be had within 5 seconds
+    /// (a lock left by a program that crashed is taken over), when `change`
+    /// left the file alone, or when it could not be written.
+    virtual bool update(const std::string& path, const Change& change) = 0;
 };
 
 /// The outcome of one HTTP transfer.

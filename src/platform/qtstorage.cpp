@@ -7,6 +7,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QLockFile>
 #include <QSaveFile>
 #include <QStandardPaths>
 
@@ -56,6 +57,23 @@ bool QtStorage::write(const std::string& path, std::string_view bytes) {
 
 void QtStorage::remove(const std::string& path) {
     QFile::remove(qt(path));
+}
+
+bool QtStorage::update(const std::string& path, const Change& change) {
+    QDir().mkpath(QFileInfo(qt(path)).absolutePath());
+    QLockFile lock(qt(path) + QStringLiteral(".lock"));
+    // A write takes milliseconds: a lock older than 10 seconds, or one whose
+    // process is gone, was left by a program that crashed.
+    lock.setStaleLockTime(std::chrono::seconds(10));
+    if (!lock.tryLock(std::chrono::seconds(5))) {
+        return false;
+    }
+    const FileRead file = read(path);
+    const std::optional<std::string> changed = change(file);
+    if (!changed) {
+        return false;
+    }
+    return (file.status == FileRead::Status::Ok && *changed == file.bytes) || write(path, *changed);
 }
 
 std::string QtStorage::locateProgramFolder(const std::optional<std::string>& folder) {

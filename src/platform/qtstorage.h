@@ -18,6 +18,8 @@ class QtStorage : public Storage {
     FileRead read(const std::string& path) override;
     bool write(const std::string& path, std::string_view bytes) override;
     void remove(const std::string& path) override;
+    /// The lock is a QLockFile beside the file ("zelFLIGHTAB.ini.lock").
+    bool update(const std::string& path, const Change& change) override;
 
     /// Where the settings live: `folder` when given; else the executable's
     /// folder when it holds Tech/zelFLIGHTAB.ini (a portable install); else the

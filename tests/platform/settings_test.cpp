@@ -75,8 +75,8 @@ TEST(SettingsFolder, AMissingFolderStartsFromTheShippedFile) {
 TEST(SettingsFolder, AFolderThatCannotBeWrittenIsReported) {
     Start s;
     writeAll(s.folder + "/Tech", "a file where the folder should be");
-    // Without rates every factor is 0, which converts one to one.
-    EXPECT_EQ(s.run(), "100.00") << "no rates, but the page works";
+    // Without rates no currency is known: nothing is converted one to one.
+    EXPECT_EQ(s.run(), "") << "no rates, but the page works";
     EXPECT_TRUE(s.toldUnsaved());
     EXPECT_EQ(readAll(s.folder + "/Tech"), "a file where the folder should be");
 }
@@ -93,7 +93,7 @@ TEST(SettingsFolder, AFileThatIsNoIniOrIsCutShortKeepsWhatItHolds) {
         const std::string after = readAll(s.settings);
         EXPECT_EQ(after.substr(0, bytes.size()), bytes) << name;
         EXPECT_NE(after.find("myCurrCode=MXN"), std::string::npos) << name;
-        EXPECT_EQ(usd, bytes.starts_with("[Rates]") ? "107.05" : "100.00") << name;
+        EXPECT_EQ(usd, bytes.starts_with("[Rates]") ? "107.05" : "") << name;
         EXPECT_FALSE(s.toldUnsaved()) << name;
     }
 }

@@ -177,17 +177,42 @@ TEST(CurrencyPage, SaysWhatItCouldNotSaveAndLeavesTheFileAlone) {
     }
 }
 
-TEST(CurrencyPage, TheInfoKeyNamesTheSource) {
-    for (const auto& [source, from] : {std::pair{"ecb", "the European Central Bank"},
-                                       std::pair{"converter", "Google Finance"}}) {
-        CurrencyPage page(0, "myCurrCode=XXX\n", source);
+TEST(CurrencyPage, TheInfoKeyNamesTheSourceAndTheDateOfTheRates) {
+    const std::tuple<const char*, const char*, const char*> cases[] = {
+        {"ecb", "the European Central Bank", "Rates of 28 Jun 2024 (European Central Bank)"},
+        {"converter", "Google Finance", "Rates of 28 Jun 2024 (Google Finance)"},
+    };
+    for (const auto& [source, from, rates] : cases) {
+        CurrencyPage page(46348 - 45471, "myCurrCode=XXX\n", source);
+        page.ui.answers = {false};
         page.menu.LabMenu_Click(18);
         page.menu.LabMEM_Click(2);
         EXPECT_EQ(page.lastEvent(), "information Currency: Currency Rates are retrieved from " +
                                         std::string(from) +
                                         ".\r\rPress the Rates button to download the latest "
-                                        "rates...");
+                                        "rates...\r\r" +
+                                        rates);
     }
+    CurrencyPage none;
+    none.storage.settings() = "[Rates]\nEUR=1\n";
+    none.ui.answers = {false};
+    none.menu.LabMenu_Click(18);
+    none.menu.LabMEM_Click(2);
+    EXPECT_TRUE(none.lastEvent().ends_with("\r\rNo rates stored yet"));
+}
+
+TEST(CurrencyPage, AMissingRateIsUnknownAndNeverOneToOne) {
+    // Mexican Peso is named, but no rate was ever downloaded; the yen's is 0.
+    CurrencyPage page(0, "myCurrName=Mexican Peso\nmyCurrCode=MXN\n");
+    page.storage.settings().replace(page.storage.settings().find("JPY=171.94"), 10, "JPY=0");
+    page.menu.LabMenu_Click(18);
+    page.enter(3, "100");
+    EXPECT_EQ(page.caption(7), "107.05");
+    EXPECT_EQ(page.caption(8), "");
+    EXPECT_EQ(page.caption(5), "");
+    page.enter(8, "50"); // typed into the peso row
+    EXPECT_EQ(page.ui.events, std::vector<std::string>{"beep"});
+    EXPECT_EQ(page.caption(7), "107.05");
 }
 
 } // namespace

@@ -88,6 +88,11 @@ class FakeStorage : public Storage {
         return true;
     }
     void remove(const std::string& path) override { files.erase(path); }
+    bool update(const std::string& path, const Change& change) override {
+        const FileRead file = read(path);
+        const auto changed = change(file);
+        return changed && (*changed == file.bytes || write(path, *changed));
+    }
 
     std::string& settings() { return files[folder + "/Tech/zelFLIGHTAB.ini"]; }
 };

@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 zelFLIGHTAB developers
+#pragma once
+
+#include "page/pagetable.h"
+
+#include <span>
+
+namespace zel {
+
+/// The Currency page: every row through the euro, with the rates of the rate
+/// store as factors (units per euro). A rate that is missing or 0 is not
+/// known: its row stays empty, and a value typed into it is refused.
+Report Convert_Currency(PageSheet& page, double inputValue, int& inputRow);
+
+/// The Currency page.
+std::span<const PageTable> currencyPages();
+
+} // namespace zel
