@@ -7,11 +7,22 @@
 #include "ui/qtinteraction.h"
 
 #include <QApplication>
+#include <QTemporaryDir>
 
 #include <fstream>
 #include <iostream>
 
 namespace {
+
+/// --zoom and --palette, when given.
+void applyLook(zel::MenuWindow& window, const zel::Options& options) {
+    if (options.zoom) {
+        window.setZoom(std::stod(*options.zoom) / 100);
+    }
+    if (options.palette) {
+        window.setNight(*options.palette == "night");
+    }
+}
 
 /// `--script FILE --screenshot OUT.png`: console commands against the real
 /// window, then a picture of it. Dialogs are printed as the console prints them.
@@ -24,7 +35,10 @@ int runScript(zel::SharedPlatform& shared, const zel::Options& options) {
     zel::ConsoleInteraction interaction(std::cout);
     zel::Platform platform = shared.with(interaction);
     zel::Menu menu(platform);
-    zel::MenuWindow window(menu);
+    // A picture shows the window as it starts, whatever the user's window did.
+    const QTemporaryDir memory;
+    zel::MenuWindow window(menu, nullptr, memory.path() + "/window.ini");
+    applyLook(window, options);
     zel::ConsoleSession session(menu, interaction, std::cout);
     session.start();
     std::string line;
@@ -42,11 +56,12 @@ int runScript(zel::SharedPlatform& shared, const zel::Options& options) {
     return 0;
 }
 
-int runWindow(zel::SharedPlatform& shared) {
+int runWindow(zel::SharedPlatform& shared, const zel::Options& options) {
     zel::QtInteraction interaction;
     zel::Platform platform = shared.with(interaction);
     zel::Menu menu(platform);
     zel::MenuWindow window(menu, &interaction);
+    applyLook(window, options);
     interaction.setParent(&window);
     interaction.setFlash([&window] { window.flash(); });
     window.show();
@@ -92,5 +107,5 @@ int main(int argc, char** argv) {
     if (options.script) {
         return runScript(*shared, options);
     }
-    return runWindow(*shared);
+    return runWindow(*shared, options);
 }

@@ -72,6 +72,23 @@ class Menu {
     void LabMEM_Click(int index);
     void LabDEC_Click();
 
+    // The clipboard (clipboard.cpp).
+    /// Text pasted into the entry, typed as its keys would be: on a number
+    /// page a number ("." or "," for the decimal symbol, grouping and blanks
+    /// left out, a leading "-" kept), else the bell; on a text page the report.
+    void Form_Paste(std::string_view text);
+    /// The number in the display: regional decimal symbol, no grouping.
+    std::string displayNumber() const;
+    /// A row's value as shown, without grouping symbols; empty for none.
+    std::string rowText(int row) const;
+    /// The page as text for a flight log: its title, then "unit<TAB>value"
+    /// for every row the page has.
+    std::string pageText() const;
+
+    /// The settings file and the day and source of the stored rates.
+    std::string settingsFile() { return m_currency.settingsFile(); }
+    std::string ratesNote() { return m_currency.ratesNote(); }
+
     // What the window shows.
     Face face() const { return m_face; }
     int currentPage() const { return m_table ? m_table->number : 0; }

@@ -2,6 +2,8 @@
 // SPDX-FileCopyrightText: 2026 zelFLIGHTAB developers
 #include "app/options.h"
 
+#include <algorithm>
+
 namespace zel {
 
 Options parseOptions(const std::vector<std::string>& arguments) {
@@ -27,6 +29,10 @@ Options parseOptions(const std::vector<std::string>& arguments) {
             value(options.script);
         } else if (argument == "--screenshot") {
             value(options.screenshot);
+        } else if (argument == "--zoom") {
+            value(options.zoom);
+        } else if (argument == "--palette") {
+            value(options.palette);
         } else if (argument == "--convert") {
             if (i + 3 >= arguments.size()) {
                 options.error = "--convert needs a page, a row and a value";
@@ -47,6 +53,13 @@ Options parseOptions(const std::vector<std::string>& arguments) {
         if (!options.error.empty()) {
             break;
         }
+    }
+    static const std::vector<std::string> Zooms{"100", "125", "150", "175", "200", "250"};
+    if (options.zoom && std::find(Zooms.begin(), Zooms.end(), *options.zoom) == Zooms.end()) {
+        options.error = "--zoom takes 100, 125, 150, 175, 200 or 250";
+    }
+    if (options.palette && *options.palette != "day" && *options.palette != "night") {
+        options.error = "--palette takes day or night";
     }
     return options;
 }
@@ -69,6 +82,8 @@ calculators, a SNOWTAM runway-state decoder and currency rates.
                             and print what the window shows
   --script FILE             run console commands against the window, then
   --screenshot OUT.png      save a picture of it and exit
+  --zoom PERCENT            the window at 100, 125, 150, 175, 200 or 250 %
+  --palette day|night       the window's day or night palette
   --locale NAME             regional number symbols of NAME (en_US, de_DE)
   --symbols DG              decimal symbol D and grouping symbol G, as ",."
   --folder DIR              keep the settings in DIR/Tech/zelFLIGHTAB.ini

@@ -17,6 +17,8 @@ struct Options {
     std::optional<std::string> folder;     ///< the program folder (settings, kept pages)
     std::optional<std::string> script;     ///< console commands run against the window
     std::optional<std::string> screenshot; ///< picture of the window, then exit
+    std::optional<std::string> zoom;       ///< the window's zoom in percent
+    std::optional<std::string> palette;    ///< "day" or "night"
     std::vector<std::string> convert;      ///< PAGE ROW VALUE: one conversion, printed
     bool help = false;
     bool version = false;

@@ -205,18 +205,20 @@ ModCurrency::Source ModCurrency::source() {
                                                                    : Source::Ecb;
 }
 
+std::string ModCurrency::ratesNote() {
+    const double day = ToNumber(ReadIni(Rates, "Date"), {});
+    if (!(day > 0 && day < 2958466)) { // a day up to 31 December 9999
+        return "No rates stored yet";
+    }
+    return "Rates of " + dayText(static_cast<int>(day)) + " (" +
+           (source() == Source::Converter ? "Google Finance" : "European Central Bank") + ")";
+}
+
 std::string ModCurrency::sourceNote() {
     const bool converter = source() == Source::Converter;
-    const std::string stored = ReadIni(Rates, "Date");
-    const double day = ToNumber(stored, {});
-    const std::string rates = day > 0 && day < 2958466 // up to 31 December 9999
-                                  ? "Rates of " + dayText(static_cast<int>(day)) + " (" +
-                                        (converter ? "Google Finance" : "European Central Bank") +
-                                        ")"
-                                  : "No rates stored yet";
     return "Currency Rates are retrieved from " +
            std::string(converter ? "Google Finance" : "the European Central Bank") +
-           ".\r\rPress the Rates button to download the latest rates...\r\r" + rates;
+           ".\r\rPress the Rates button to download the latest rates...\r\r" + ratesNote();
 }
 
 void ModCurrency::cannotRead(std::string_view code) {

@@ -59,9 +59,12 @@ class ModCurrency {
 
     /// The text of the Currency page's "i" key: where the rates come from.
     std::string sourceNote();
+    /// "Rates of 28 Jun 2024 (European Central Bank)", or "No rates stored yet".
+    std::string ratesNote();
+    /// The settings file: <program folder>/Tech/zelFLIGHTAB.ini.
+    std::string settingsFile();
 
   private:
-    std::string settingsFile();
     enum class Source { Ecb, Converter };
     Source source();
     std::string techFile(std::string_view name);

@@ -7,13 +7,11 @@
 
 #include <QApplication>
 #include <QEvent>
-#include <QKeyEvent>
 #include <QPainter>
 #include <QSvgRenderer>
 #include <QTimer>
 
 #include <cmath>
-
 #include <utility>
 
 // The icons are compiled into this library; a static library must load them itself.
@@ -24,59 +22,9 @@ static void loadIcons() {
 namespace zel {
 namespace {
 
-// The window is 295 device-independent pixels wide, as the original 4420
-// twips; it holds eight lines of page buttons, each 61 pixels high.
-constexpr int WindowWidth = 295;
-constexpr int WindowHeight = 535;
+constexpr int WindowWidth = MenuWindow::DesignWidth;
+constexpr int WindowHeight = MenuWindow::DesignHeight;
 constexpr int RowHeight = 45;
-
-const QColor RowColour(0, 69, 125);
-const QColor InputColour(85, 142, 191);
-const QColor PageButtonText(224, 224, 224);
-const QColor KeyText(255, 255, 255);
-const QColor Amber(255, 190, 0);
-
-// One calm instrument panel: a light sheet, slate keys, a dark display.
-const ZelFrame::Style Background{
-    QColor(0xd9, 0xe1, 0xe9), QColor(0xa9, 0xb8, 0xc7), {}, {}, 0, false};
-const ZelFrame::Style TitleBar{QColor(0xf7, 0xf9, 0xfb),
-                               QColor(0xd4, 0xdd, 0xe6),
-                               QColor(0x9a, 0xab, 0xbc),
-                               RowColour,
-                               0,
-                               false};
-const ZelFrame::Style Sheet{QColor(0xfb, 0xfc, 0xfd),
-                            QColor(0xe3, 0xea, 0xf0),
-                            QColor(0xa4, 0xb4, 0xc4),
-                            RowColour,
-                            9,
-                            true};
-const ZelFrame::Style Panel{
-    QColor(0x5b, 0x6e, 0x81), QColor(0x3b, 0x4b, 0x5b), QColor(0x2c, 0x38, 0x44), KeyText, 9, true};
-const ZelFrame::Style Key{
-    QColor(0x4f, 0x62, 0x76), QColor(0x2b, 0x38, 0x46), QColor(0x1d, 0x27, 0x31), KeyText, 5, true};
-const ZelFrame::Style PageButton{QColor(0x50, 0x64, 0x79),
-                                 QColor(0x2a, 0x37, 0x45),
-                                 QColor(0x1d, 0x27, 0x31),
-                                 PageButtonText,
-                                 8,
-                                 true};
-const ZelFrame::Style Display{QColor(0x1c, 0x27, 0x31),
-                              QColor(0x2a, 0x38, 0x45),
-                              QColor(0x10, 0x17, 0x1e),
-                              QColor(0xe8, 0xf2, 0xfa),
-                              5,
-                              false};
-const ZelFrame::Style MenuButton{QColor(0xff, 0xff, 0xff),
-                                 QColor(0xc9, 0xd5, 0xe0),
-                                 QColor(0x8a, 0x9d, 0xb0),
-                                 RowColour,
-                                 6,
-                                 true};
-const ZelFrame::Style Cell{Qt::transparent, Qt::transparent, {}, RowColour, 0, false};
-// The input row stands on a pale amber band, with a bar in the input colour.
-const ZelFrame::Style Band{
-    QColor(0xff, 0xf3, 0xd1), QColor(0xfc, 0xe8, 0xb5), InputColour, RowColour, 4, false};
 
 constexpr std::array<const char*, 25> IconNames{
     "app",         "weight",    "fluid",     "surface",     "speed",     "distance",  "angle",
@@ -90,14 +38,6 @@ QString text(const std::string& s) {
 
 QString text(std::string_view s) {
     return QString::fromUtf8(s.data(), static_cast<qsizetype>(s.size()));
-}
-
-ZelFrame* frame(const ZelFrame::Style& style, QWidget* parent, QRect geometry,
-                const QString& caption = {}) {
-    auto* f = new ZelFrame(style, parent);
-    f->setGeometry(geometry);
-    f->setCaption(caption);
-    return f;
 }
 
 } // namespace
@@ -118,25 +58,44 @@ QPixmap pageIcon(int page, int size, const QColor& color, qreal devicePixelRatio
     return pixmap;
 }
 
-MenuWindow::MenuWindow(Menu& menu, QtInteraction* interaction, QWidget* parent)
-    : QWidget(parent), m_menu(menu), m_interaction(interaction) {
+ZelFrame* MenuWindow::frame(Look look, QWidget* parent, QRect geometry, const QString& caption) {
+    auto* f = new ZelFrame(lookStyle(look, m_night), parent);
+    f->setCaption(caption);
+    m_placed.push_back({f, geometry, look});
+    f->setGeometry(geometry);
+    return f;
+}
+
+MenuWindow::MenuWindow(Menu& menu, QtInteraction* interaction, const QString& memoryFile,
+                       QWidget* parent)
+    : QWidget(parent), m_menu(menu), m_interaction(interaction), m_memoryFile(memoryFile) {
     loadIcons();
+    installFrameAccessibility();
     setWindowTitle(QStringLiteral("zelFLIGHTAB"));
-    setWindowIcon(QIcon(pageIcon(0, 64, RowColour, 1)));
-    setFixedSize(WindowWidth, WindowHeight);
+    setAccessibleName(QStringLiteral("zelFLIGHTAB"));
     setFocusPolicy(Qt::StrongFocus);
-    frame(Background, this, rect());
-    m_titleBar = frame(TitleBar, this, QRect(0, 0, WindowWidth, 36));
-    m_titleIcon = frame(Cell, m_titleBar, QRect(6, 4, 28, 28));
-    m_title = frame(Cell, m_titleBar, QRect(34, 0, 180, 36));
+    frame(Look::Background, this, QRect(0, 0, WindowWidth, WindowHeight))
+        ->setAccessibleName(QStringLiteral("zelFLIGHTAB"));
+    m_titleBar = frame(Look::TitleBar, this, QRect(0, 0, WindowWidth, 36));
+    m_titleBar->setAccessibleName(QStringLiteral("Title bar"));
+    m_titleIcon = frame(Look::Cell, m_titleBar, QRect(6, 4, 28, 28));
+    m_titleIcon->setCursor(Qt::PointingHandCursor);
+    m_titleIcon->setToolTip(QStringLiteral("About zelFLIGHTAB (Shift+F1)"));
+    m_titleIcon->setAccessibleName(QStringLiteral("About zelFLIGHTAB"));
+    m_titleIcon->setAccessibleRole(QAccessible::Button);
+    connect(m_titleIcon, &ZelFrame::clicked, this, [this] { showAbout(); });
+    m_title = frame(Look::Cell, m_titleBar, QRect(34, 0, 180, 36));
     m_title->setAlignment(Qt::AlignLeft);
     m_title->setPointSize(11);
     m_title->setBold(true);
+    m_title->setAccessibleRole(QAccessible::Heading);
     buildMenuFace();
     buildPageFace();
-    m_menuButton =
-        frame(MenuButton, m_titleBar, QRect(WindowWidth - 74, 6, 64, 24), QStringLiteral("Menu"));
+    m_menuButton = frame(Look::MenuButton, m_titleBar, QRect(WindowWidth - 74, 6, 64, 24),
+                         QStringLiteral("Menu"));
     m_menuButton->setCursor(Qt::PointingHandCursor);
+    m_menuButton->setAccessibleRole(QAccessible::Button);
+    m_menuButton->setToolTip(QStringLiteral("Back to the menu (Alt+M)"));
     connect(m_menuButton, &ZelFrame::clicked, this,
             [this] { act([this] { m_menu.LabelMenu_Click(); }); });
     for (ZelFrame* key :
@@ -145,12 +104,19 @@ MenuWindow::MenuWindow(Menu& menu, QtInteraction* interaction, QWidget* parent)
         key->setFocusPolicy(Qt::TabFocus);
     }
     m_menu.Form_Load();
+    recallSettings();
+    restyle();
     render();
+    restorePosition();
+}
+
+MenuWindow::~MenuWindow() {
+    rememberSettings();
 }
 
 void MenuWindow::buildMenuFace() {
     // Three columns by eight lines, in page order.
-    const PageCatalogue& pages = pageCatalogue();
+    const PageCatalogue& pages = m_menu.pages();
     for (int page = 1; page <= pages.count(); ++page) {
         const PageTable* table = pages.find(page);
         if (table == nullptr) {
@@ -158,13 +124,16 @@ void MenuWindow::buildMenuFace() {
         }
         const int column = (page - 1) % 3;
         const int line = (page - 1) / 3;
-        auto* button = frame(PageButton, this, QRect(8 + column * 94, 44 + line * 61, 90, 57),
+        auto* button = frame(Look::PageButton, this, QRect(8 + column * 94, 44 + line * 61, 90, 57),
                              text(table->name));
         button->setPointSize(8);
-        button->setIcon(pageIcon(page, 22, PageButtonText, devicePixelRatioF()));
         button->setCornerCaption(text(table->keyCaption));
         button->setCursor(Qt::PointingHandCursor);
         button->setFocusPolicy(Qt::TabFocus);
+        button->setAccessibleRole(QAccessible::Button);
+        if (!table->keyCaption.empty()) {
+            button->setAccessibleDescription(text(table->keyCaption));
+        }
         connect(button, &ZelFrame::clicked, this,
                 [this, page] { act([this, page] { m_menu.LabMenu_Click(page); }); });
         m_pageButtons[static_cast<std::size_t>(page)] = button;
@@ -172,52 +141,70 @@ void MenuWindow::buildMenuFace() {
 }
 
 void MenuWindow::buildPageFace() {
-    m_pageFace = frame(Background, this, QRect(0, 36, WindowWidth, WindowHeight - 36));
-    auto* calculator = frame(Panel, m_pageFace, QRect(11, 10, 273, 89));
+    m_pageFace = frame(Look::Background, this, QRect(0, 36, WindowWidth, WindowHeight - 36));
+    m_pageFace->setAccessibleName(QStringLiteral("Page"));
+    auto* calculator = frame(Look::Panel, m_pageFace, QRect(11, 10, 273, 89));
+    calculator->setAccessibleName(QStringLiteral("Calculator"));
     buildCalculator(calculator);
-    auto* rows = frame(Sheet, m_pageFace, QRect(11, 110, 273, 8 * RowHeight + 18));
-    buildRows(rows);
+    m_rowsPanel = frame(Look::Sheet, m_pageFace, QRect(11, 110, 273, 8 * RowHeight + 18));
+    m_rowsPanel->setAccessibleName(QStringLiteral("Rows"));
+    buildRows(m_rowsPanel);
 }
 
 void MenuWindow::buildCalculator(QWidget* panel) {
-    m_display = frame(Display, panel, QRect(8, 8, 152, 40));
+    m_display = frame(Look::Display, panel, QRect(8, 8, 152, 40));
     m_display->setAlignment(Qt::AlignRight);
+    m_display->setAccessibleName(QStringLiteral("Display"));
+    m_display->setAccessibleRole(QAccessible::StaticText);
 
-    m_memoryPanel = new QWidget(panel);
-    m_memoryPanel->setGeometry(8, 54, 152, 27);
+    m_memoryPanel = frame(Look::Cell, panel, QRect(8, 54, 152, 27));
+    m_memoryPanel->setAccessibleName(QStringLiteral("Memory keys"));
+    m_memoryPanel->setAccessibleRole(QAccessible::Grouping);
     for (int key = 0; key < 3; ++key) {
-        auto* button = frame(Key, m_memoryPanel, QRect(key * 52, 0, 48, 27));
+        auto* button = frame(Look::Key, m_memoryPanel, QRect(key * 52, 0, 48, 27));
         button->setPointSize(8.5);
+        button->setAccessibleRole(QAccessible::Button);
         connect(button, &ZelFrame::clicked, this,
                 [this, key] { act([this, key] { m_menu.LabMEM_Click(key); }); });
         m_memoryKeys[static_cast<std::size_t>(key)] = button;
     }
-    m_digitsKey = frame(Key, panel, QRect(168, 8, 56, 27));
+    m_digitsKey = frame(Look::Key, panel, QRect(168, 8, 56, 27));
     m_digitsKey->setToolTip(QStringLiteral(" Change number of digits "));
     m_digitsKey->setPointSize(8.5);
+    m_digitsKey->setAccessibleRole(QAccessible::Button);
+    m_digitsKey->setAccessibleName(QStringLiteral("Number of digits"));
     connect(m_digitsKey, &ZelFrame::clicked, this,
             [this] { act([this] { m_menu.LabDEC_Click(); }); });
-    m_clearKey = frame(Key, panel, QRect(168, 54, 56, 27), QStringLiteral("C"));
+    m_clearKey = frame(Look::Key, panel, QRect(168, 54, 56, 27), QStringLiteral("C"));
     m_clearKey->setToolTip(QStringLiteral(" Clear "));
     m_clearKey->setPointSize(10);
+    m_clearKey->setAccessibleRole(QAccessible::Button);
+    m_clearKey->setAccessibleName(QStringLiteral("Clear"));
     connect(m_clearKey, &ZelFrame::clicked, this, [this] { act([this] { m_menu.LabC_Click(); }); });
 
-    m_operatorPanel = new QWidget(panel);
-    m_operatorPanel->setGeometry(232, 6, 32, 77);
+    m_operatorPanel = frame(Look::Cell, panel, QRect(232, 6, 32, 77));
+    m_operatorPanel->setAccessibleName(QStringLiteral("Operator keys"));
+    m_operatorPanel->setAccessibleRole(QAccessible::Grouping);
     const QString tip =
         QStringLiteral(" Press + - x / on keyboard and press ENTER key for result ");
+    const std::array<QString, 4> names{QString(), QStringLiteral("Add"), QStringLiteral("Subtract"),
+                                       QStringLiteral("Multiply")};
     for (int key = 1; key <= 3; ++key) {
-        auto* button = frame(Key, m_operatorPanel, QRect(0, (key - 1) * 19, 32, 18));
+        auto* button = frame(Look::Key, m_operatorPanel, QRect(0, (key - 1) * 19, 32, 18));
         button->setPointSize(10);
         button->setToolTip(tip);
+        button->setAccessibleRole(QAccessible::Button);
+        button->setAccessibleName(names[static_cast<std::size_t>(key)]);
         connect(button, &ZelFrame::clicked, this,
                 [this, key] { act([this, key] { m_menu.LabOP_Click(key); }); });
         m_operatorKeys[static_cast<std::size_t>(key)] = button;
     }
     // The divide key has two faces: the upper divides, the lower only lights up.
-    m_divideKey = frame(Key, m_operatorPanel, QRect(0, 57, 32, 20), QStringLiteral("÷"));
+    m_divideKey = frame(Look::Key, m_operatorPanel, QRect(0, 57, 32, 20), QStringLiteral("÷"));
     m_divideKey->setPointSize(11);
     m_divideKey->setToolTip(tip);
+    m_divideKey->setAccessibleRole(QAccessible::Button);
+    m_divideKey->setAccessibleName(QStringLiteral("Divide"));
     connect(m_divideKey, &ZelFrame::clicked, this, [this](QPoint at) {
         const int key = at.y() < m_divideKey->height() / 2 ? 4 : 5;
         act([this, key] { m_menu.LabOP_Click(key); });
@@ -228,15 +215,18 @@ void MenuWindow::buildRows(QWidget* panel) {
     constexpr int Top = 9;
     for (int row = 1; row <= 8; ++row) {
         const int y = Top + (row - 1) * RowHeight;
-        auto* band = frame(Band, panel, QRect(2, y + 1, 269, RowHeight - 2));
+        auto* band = frame(Look::Band, panel, QRect(2, y + 1, 269, RowHeight - 2));
         band->setAttribute(Qt::WA_TransparentForMouseEvents);
+        band->setAccessibleName(QStringLiteral("Input row"));
         band->hide();
-        auto* value = frame(Cell, panel, QRect(4, y, 126, RowHeight));
+        auto* value = frame(Look::Cell, panel, QRect(4, y, 126, RowHeight));
         value->setAlignment(Qt::AlignRight);
         value->setFocusPolicy(Qt::TabFocus);
-        auto* unit = frame(Cell, panel, QRect(136, y, 135, RowHeight));
+        value->setAccessibleRole(QAccessible::Button);
+        auto* unit = frame(Look::Cell, panel, QRect(136, y, 135, RowHeight));
         unit->setAlignment(Qt::AlignLeft);
         unit->setPointSize(8);
+        unit->setAccessibleRole(QAccessible::StaticText);
         // The whole row takes the click, its unit as well as its value.
         for (ZelFrame* cell : {value, unit}) {
             cell->setCursor(Qt::PointingHandCursor);
@@ -248,23 +238,24 @@ void MenuWindow::buildRows(QWidget* panel) {
         m_units[static_cast<std::size_t>(row)] = unit;
     }
     // Separator lines: one between value and unit, one under every pair of rows.
-    auto line = [panel](QRect r) {
-        auto* l = new QWidget(panel);
-        l->setGeometry(r);
-        l->setAutoFillBackground(true);
-        QPalette palette = l->palette();
-        palette.setColor(QPalette::Window, QColor(0xb8, 0xc6, 0xd3));
-        l->setPalette(palette);
-        l->setAttribute(Qt::WA_TransparentForMouseEvents);
-    };
-    line(QRect(134, Top + 4, 1, 8 * RowHeight - 8));
+    std::vector<QRectF> lines{QRectF(134, Top + 4, 1, 8 * RowHeight - 8)};
     for (int pair = 1; pair <= 3; ++pair) {
-        line(QRect(10, Top + pair * 2 * RowHeight, 253, 1));
+        lines.emplace_back(10, Top + pair * 2 * RowHeight, 253, 1);
     }
+    static_cast<ZelFrame*>(panel)->setLines(std::move(lines));
 }
 
 ZelFrame* MenuWindow::operatorKey(int key) const {
     return key >= 4 ? m_divideKey : m_operatorKeys.at(static_cast<std::size_t>(key));
+}
+
+int MenuWindow::rowOf(const QWidget* widget) const {
+    for (int row = 1; row <= 8; ++row) {
+        if (widget == valueCell(row) || widget == unitCell(row)) {
+            return row;
+        }
+    }
+    return 0;
 }
 
 void MenuWindow::act(const std::function<void()>& handler) {
@@ -273,6 +264,7 @@ void MenuWindow::act(const std::function<void()>& handler) {
 }
 
 void MenuWindow::render() {
+    const TextColours& colours = textColours(m_night);
     const bool page = m_menu.face() == Face::Page;
     m_pageFace->setVisible(page);
     for (ZelFrame* button : m_pageButtons) {
@@ -282,13 +274,14 @@ void MenuWindow::render() {
     }
     m_menuButton->setVisible(page);
     const int iconPage = page ? m_menu.currentPage() : 0;
-    if (iconPage != m_shownIconPage) {
-        m_titleIcon->setIcon(pageIcon(iconPage, 24, RowColour, devicePixelRatioF()));
+    if (iconPage != m_shownIconPage || m_iconRatio != devicePixelRatioF()) {
+        refreshIcons();
         m_shownIconPage = iconPage;
     }
     m_title->setCaption(page ? text(m_menu.title()) : QStringLiteral("zelFLIGHTAB"));
 
     m_display->setCaption(text(m_menu.display()));
+    m_display->setAccessibleValue(text(m_menu.display()));
     m_display->setPointSize(m_menu.displaySize());
     m_digitsKey->setCaption(text(m_menu.digitsCaption()));
     m_memoryPanel->setVisible(m_menu.panelsVisible());
@@ -297,14 +290,15 @@ void MenuWindow::render() {
     for (int key = 0; key < 3; ++key) {
         ZelFrame* button = m_memoryKeys[static_cast<std::size_t>(key)];
         button->setCaption(text(m_menu.memoryCaption(key)));
-        button->setTextColor(m_menu.memoryLit(key) ? Amber : KeyText);
+        button->setTextColor(m_menu.memoryLit(key) ? colours.amber : colours.keyText);
     }
     for (int key = 1; key <= 3; ++key) {
         ZelFrame* button = m_operatorKeys[static_cast<std::size_t>(key)];
         button->setCaption(text(m_menu.operatorCaption(key)));
-        button->setTextColor(m_menu.operatorLit(key) ? Amber : KeyText);
+        button->setTextColor(m_menu.operatorLit(key) ? colours.amber : colours.keyText);
     }
-    m_divideKey->setTextColor(m_menu.operatorLit(4) || m_menu.operatorLit(5) ? Amber : KeyText);
+    m_divideKey->setTextColor(m_menu.operatorLit(4) || m_menu.operatorLit(5) ? colours.amber
+                                                                             : colours.keyText);
     const bool report = page && m_menu.page()->isText();
     m_display->setShowEnd(report);
     m_display->setShortForm(report ? ZelFrame::ShortForm() : [this](int digits) {
@@ -327,10 +321,11 @@ void MenuWindow::render() {
 }
 
 void MenuWindow::renderRows() {
+    const TextColours& colours = textColours(m_night);
     const Symbols& symbols = m_menu.symbols();
     for (int row = 1; row <= 8; ++row) {
         const RowCell& cell = m_menu.row(row);
-        const QColor colour = cell.input ? InputColour : RowColour;
+        const QColor colour = cell.input ? colours.input : colours.row;
         ZelFrame* value = m_values[static_cast<std::size_t>(row)];
         value->setCaption(text(cell.caption));
         value->setPointSize(cell.fontSize);
@@ -353,6 +348,9 @@ void MenuWindow::renderRows() {
         unit->setCaption(text(cell.unit));
         unit->setTextColor(colour);
         unit->setToolTip(text(cell.unit));
+        // To a screen reader the row is its unit, with the value it holds.
+        value->setAccessibleName(text(cell.unit));
+        value->setAccessibleValue(text(cell.caption));
         value->setToolTip(value->fit().shortened || value->fit().wrapped ? text(cell.caption)
                                                                          : text(cell.unit));
         m_bands[static_cast<std::size_t>(row)]->setVisible(cell.input);
@@ -383,6 +381,11 @@ bool MenuWindow::event(QEvent* e) {
         }
     } else if (e->type() == QEvent::Close) {
         m_menu.Form_QueryUnload();
+    } else if (e->type() == QEvent::ScreenChangeInternal ||
+               e->type() == QEvent::ApplicationPaletteChange) {
+        // Another screen may have another pixel ratio; another desktop palette
+        // may be dark.
+        restyle();
     }
     return QWidget::event(e);
 }

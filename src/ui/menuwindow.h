@@ -3,40 +3,67 @@
 #pragma once
 
 #include "app/menu.h"
+#include "ui/windowstyle.h"
 #include "ui/zelframe.h"
 
+#include <QPointer>
 #include <QWidget>
 #include <array>
 #include <functional>
+#include <optional>
 #include <set>
 #include <vector>
+
+class QMenu;
 
 namespace zel {
 
 class QtInteraction;
 
-/// The one window: the menu face (eighteen page buttons) and the page face
-/// (title bar, calculator panel, eight rows). It forwards every click and key
-/// to Menu and then draws what Menu holds; it has no page logic of its own.
+/// The one window: the menu face (the page buttons) and the page face (title
+/// bar, calculator panel, eight rows). It forwards every click and key to
+/// Menu and then draws what Menu holds; it has no page logic of its own.
+/// Beyond the calculator it does what a desktop program does: the clipboard,
+/// screen readers, zoom, a night palette, an About box, and it remembers its
+/// zoom, palette and place between runs.
 class MenuWindow : public QWidget {
     Q_OBJECT
   public:
     /// `interaction` is told when its dialogs close, so that the window's own
     /// re-activation after a message box is not taken for the user's return.
-    MenuWindow(Menu& menu, QtInteraction* interaction = nullptr, QWidget* parent = nullptr);
+    /// `memoryFile` keeps the zoom, palette and position; empty: the user's
+    /// configuration folder.
+    explicit MenuWindow(Menu& menu, QtInteraction* interaction = nullptr,
+                        const QString& memoryFile = {}, QWidget* parent = nullptr);
+    ~MenuWindow() override;
 
     /// Draws the state of Menu.
     void render();
     /// A short flash of the display, seen where the bell is muted.
     void flash();
 
+    /// The window's size at 100 %: 295 pixels wide as the original 4420 twips,
+    /// and eight lines of page buttons high.
+    static constexpr int DesignWidth = 295;
+    static constexpr int DesignHeight = 535;
+    /// The zoom steps, 100 % to 250 %.
+    static constexpr std::array<qreal, 6> Zooms{1.0, 1.25, 1.5, 1.75, 2.0, 2.5};
+    qreal zoom() const { return m_zoom; }
+    void setZoom(qreal zoom);
+    bool night() const { return m_night; }
+    void setNight(bool night);
+    /// The About box's text: version, keys, settings file, rates, licence.
+    QString aboutText();
+    /// The right-click menu of a row: "Copy value", "Copy page".
+    QMenu* rowMenu(int row);
+
     ZelFrame* pageButton(int page) const {
         return m_pageButtons.at(static_cast<std::size_t>(page));
     }
     ZelFrame* valueCell(int row) const { return m_values.at(static_cast<std::size_t>(row)); }
+    ZelFrame* unitCell(int row) const { return m_units.at(static_cast<std::size_t>(row)); }
     /// The light band behind the input row.
     QWidget* inputBand(int row) const { return m_bands.at(static_cast<std::size_t>(row)); }
-    ZelFrame* unitCell(int row) const { return m_units.at(static_cast<std::size_t>(row)); }
     ZelFrame* operatorKey(int key) const;
     ZelFrame* memoryKey(int key) const { return m_memoryKeys.at(static_cast<std::size_t>(key)); }
     ZelFrame* display() const { return m_display; }
@@ -44,6 +71,7 @@ class MenuWindow : public QWidget {
     ZelFrame* clearKey() const { return m_clearKey; }
     ZelFrame* menuButton() const { return m_menuButton; }
     ZelFrame* title() const { return m_title; }
+    ZelFrame* titleIcon() const { return m_titleIcon; }
     QWidget* pageFace() const { return m_pageFace; }
     QWidget* memoryPanel() const { return m_memoryPanel; }
     QWidget* digitsPanel() const { return m_digitsKey; }
@@ -56,12 +84,16 @@ class MenuWindow : public QWidget {
     void keyPressEvent(QKeyEvent* event) override;
     void keyReleaseEvent(QKeyEvent* event) override;
     bool focusNextPrevChild(bool next) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
 
   private:
     void buildMenuFace();
     void buildPageFace();
     void buildCalculator(QWidget* panel);
     void buildRows(QWidget* panel);
+    /// A frame of the window, placed at its 100 % geometry and looking as `look`.
+    ZelFrame* frame(Look look, QWidget* parent, QRect geometry, const QString& caption = {});
     /// Runs one event handler of Menu, then draws the result.
     void act(const std::function<void()>& handler);
     /// The controls Tab moves over on the face shown, in order.
@@ -71,26 +103,50 @@ class MenuWindow : public QWidget {
     /// The row whose value or unit cell this is; 0 for another widget.
     int rowOf(const QWidget* widget) const;
     void renderRows();
+    // The desktop's conventions (windowdesktop.cpp).
+    /// Sizes and colours for the zoom and palette, icons for the pixel ratio.
+    void restyle();
+    void recallSettings();
+    void refreshIcons();
+    void rememberSettings();
+    void restorePosition();
+    void copy(const std::string& text);
+    void paste();
+    void showAbout();
+    bool shortcut(QKeyEvent* event);
 
     Menu& m_menu;
     QtInteraction* m_interaction;
+    QString m_memoryFile;
     ZelFrame* m_titleBar = nullptr;
     ZelFrame* m_titleIcon = nullptr;
     ZelFrame* m_title = nullptr;
     ZelFrame* m_menuButton = nullptr;
-    QWidget* m_pageFace = nullptr;
+    ZelFrame* m_pageFace = nullptr;
     ZelFrame* m_display = nullptr;
     ZelFrame* m_digitsKey = nullptr;
     ZelFrame* m_clearKey = nullptr;
-    QWidget* m_memoryPanel = nullptr;
-    QWidget* m_operatorPanel = nullptr;
+    ZelFrame* m_memoryPanel = nullptr;
+    ZelFrame* m_operatorPanel = nullptr;
+    ZelFrame* m_rowsPanel = nullptr;
     ZelFrame* m_divideKey = nullptr;
     std::array<ZelFrame*, 25> m_pageButtons{};
     std::array<ZelFrame*, 9> m_values{};
     std::array<ZelFrame*, 9> m_units{};
-    std::array<QWidget*, 9> m_bands{};
+    std::array<ZelFrame*, 9> m_bands{};
     std::array<ZelFrame*, 4> m_operatorKeys{}; // + - x; the divide key is one face for two
     std::array<ZelFrame*, 3> m_memoryKeys{};
+    /// Every widget with its geometry and, for a frame, its look at 100 %.
+    struct Placed {
+        QPointer<QWidget> widget;
+        QRect geometry;
+        std::optional<Look> look;
+    };
+    std::vector<Placed> m_placed;
+    qreal m_zoom = 1;
+    bool m_night = false;
+    bool m_nightChosen = false; ///< the user chose the palette; else the desktop's
+    qreal m_iconRatio = 0;      ///< the pixel ratio the icons were drawn for
     int m_shownIconPage = -1;
     bool m_shown = false;
     bool m_skipActivation = false;

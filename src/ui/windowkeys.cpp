@@ -81,6 +81,9 @@ bool MenuWindow::focusNextPrevChild(bool next) {
 
 void MenuWindow::keyPressEvent(QKeyEvent* e) {
     m_pressed.insert(e->key());
+    if (shortcut(e)) {
+        return;
+    }
     const Qt::KeyboardModifiers modifiers = e->modifiers() & ~Qt::KeypadModifier;
     const bool page = m_menu.face() == Face::Page;
     if (modifiers == Qt::ControlModifier && e->key() >= Qt::Key_1 && e->key() <= Qt::Key_8) {
@@ -126,6 +129,10 @@ void MenuWindow::keyPressEvent(QKeyEvent* e) {
 void MenuWindow::keyReleaseEvent(QKeyEvent* e) {
     if (e->isAutoRepeat() || m_pressed.erase(e->key()) == 0) {
         return; // its press went to a dialog, or was repeated
+    }
+    if (e->key() == Qt::Key_F1 && e->modifiers() == Qt::ShiftModifier) {
+        showAbout();
+        return;
     }
     auto* focused = qobject_cast<ZelFrame*>(focusWidget());
     const bool page = m_menu.face() == Face::Page;

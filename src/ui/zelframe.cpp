@@ -2,6 +2,7 @@
 // SPDX-FileCopyrightText: 2026 zelFLIGHTAB developers
 #include "ui/zelframe.h"
 
+#include <QAccessibleWidget>
 #include <QFontMetricsF>
 #include <QLinearGradient>
 #include <QMouseEvent>
@@ -15,10 +16,29 @@ ZelFrame::ZelFrame(const Style& style, QWidget* parent) : QWidget(parent), m_sty
     setFocusPolicy(Qt::NoFocus);
 }
 
+void ZelFrame::setStyle(const Style& style) {
+    m_style = style;
+    update();
+}
+
 void ZelFrame::setCaption(const QString& caption) {
     if (caption != m_caption) {
         m_caption = caption;
         update();
+        if (QAccessible::isActive()) {
+            QAccessibleEvent changed(this, QAccessible::NameChanged);
+            QAccessible::updateAccessibility(&changed);
+        }
+    }
+}
+
+void ZelFrame::setAccessibleValue(const QString& value) {
+    if (value != m_value) {
+        m_value = value;
+        if (QAccessible::isActive()) {
+            QAccessibleValueChangeEvent changed(this, value);
+            QAccessible::updateAccessibility(&changed);
+        }
     }
 }
 
@@ -34,6 +54,11 @@ void ZelFrame::setPointSize(qreal points) {
         m_pointSize = points;
         update();
     }
+}
+
+void ZelFrame::setScale(qreal scale) {
+    m_scale = scale;
+    update();
 }
 
 void ZelFrame::setAlignment(Qt::Alignment alignment) {
@@ -71,6 +96,16 @@ void ZelFrame::setShowEnd(bool showEnd) {
     update();
 }
 
+void ZelFrame::setLines(std::vector<QRectF> lines) {
+    m_lines = std::move(lines);
+    update();
+}
+
+void ZelFrame::setLineColor(const QColor& color) {
+    m_lineColor = color;
+    update();
+}
+
 void ZelFrame::press() {
     emit clicked(QPoint(width() / 2, height() / 4));
 }
@@ -87,10 +122,10 @@ void ZelFrame::focusOutEvent(QFocusEvent* event) {
 
 QRectF ZelFrame::textArea() const {
     const QRectF area = QRectF(rect()).adjusted(0.5, 0.5, -1.5, -1.5);
-    QRectF text = area.adjusted(6, 2, -6, -2);
+    QRectF text = area.adjusted(6 * m_scale, 2 * m_scale, -6 * m_scale, -2 * m_scale);
     if (!m_icon.isNull()) {
         const qreal side = m_icon.width() / m_icon.devicePixelRatio();
-        text.setTop(area.top() + area.height() * 0.16 + side + 1);
+        text.setTop(area.top() + area.height() * 0.16 + side + m_scale);
     }
     return text;
 }
@@ -100,7 +135,7 @@ ZelFrame::Fit ZelFrame::fit() const {
     QFont font = this->font();
     font.setBold(m_bold);
     auto fits = [&](const QString& text, qreal points) {
-        font.setPointSizeF(points);
+        font.setPointSizeF(points * m_scale);
         return QFontMetricsF(font).horizontalAdvance(text) <= width;
     };
     // Smaller first, half a point at a time.
@@ -123,7 +158,7 @@ ZelFrame::Fit ZelFrame::fit() const {
         }
     }
     if (m_showEnd) {
-        font.setPointSizeF(smallest);
+        font.setPointSizeF(smallest * m_scale);
         return {QFontMetricsF(font).elidedText(m_caption, Qt::ElideLeft, width), smallest, true};
     }
     return {m_caption, smallest, false, true};
@@ -133,10 +168,10 @@ void ZelFrame::paintEvent(QPaintEvent*) {
     QPainter p(this);
     p.setRenderHint(QPainter::Antialiasing);
     const QRectF area = QRectF(rect()).adjusted(0.5, 0.5, -1.5, -1.5);
-    const qreal r = m_style.radius;
+    const qreal r = m_style.radius * m_scale;
     if (m_style.shadow) {
         QPainterPath shadow;
-        shadow.addRoundedRect(area.translated(1, 1.2), r, r);
+        shadow.addRoundedRect(area.translated(m_scale, 1.2 * m_scale), r, r);
         p.fillPath(shadow, QColor(0, 0, 0, 55));
     }
     QPainterPath face;
@@ -152,16 +187,18 @@ void ZelFrame::paintEvent(QPaintEvent*) {
     fill.setColorAt(1, bottom);
     p.fillPath(face, fill);
     if (m_style.border.isValid()) {
-        p.setPen(QPen(m_style.border, 1));
+        p.setPen(QPen(m_style.border, m_scale));
         p.drawPath(face);
     }
-
+    for (const QRectF& line : m_lines) {
+        p.fillRect(QRectF(line.topLeft() * m_scale, line.size() * m_scale), m_lineColor);
+    }
     if (hasFocus()) {
         // The keyboard's place, visible on the light sheet and the dark keys.
         QPainterPath ring;
-        ring.addRoundedRect(area.adjusted(1, 1, -1, -1), std::max<qreal>(r - 1, 2),
-                            std::max<qreal>(r - 1, 2));
-        p.setPen(QPen(QColor(255, 190, 0), 2));
+        const qreal inner = std::max<qreal>(r - m_scale, 2);
+        ring.addRoundedRect(area.adjusted(m_scale, m_scale, -m_scale, -m_scale), inner, inner);
+        p.setPen(QPen(QColor(255, 190, 0), 2 * m_scale));
         p.drawPath(ring);
     }
 
@@ -173,7 +210,7 @@ void ZelFrame::paintEvent(QPaintEvent*) {
     }
     const Fit shown = fit();
     QFont font = this->font();
-    font.setPointSizeF(shown.points);
+    font.setPointSizeF(shown.points * m_scale);
     font.setBold(m_bold);
     p.setFont(font);
     p.setPen(m_style.text);
@@ -183,10 +220,11 @@ void ZelFrame::paintEvent(QPaintEvent*) {
                shown.text);
     if (!m_corner.isEmpty()) {
         QFont small = this->font();
-        small.setPointSizeF(6.5);
+        small.setPointSizeF(6.5 * m_scale);
         p.setFont(small);
         p.setPen(QColor(255, 190, 0, 200));
-        p.drawText(area.adjusted(3, 2, -5, 0), Qt::AlignTop | Qt::AlignRight, m_corner);
+        p.drawText(area.adjusted(3 * m_scale, 2 * m_scale, -5 * m_scale, 0),
+                   Qt::AlignTop | Qt::AlignRight, m_corner);
     }
 }
 
@@ -194,11 +232,14 @@ void ZelFrame::mousePressEvent(QMouseEvent* event) {
     if (event->button() == Qt::LeftButton) {
         m_pressed = true;
         update();
+    } else {
+        event->ignore();
     }
 }
 
 void ZelFrame::mouseReleaseEvent(QMouseEvent* event) {
     if (event->button() != Qt::LeftButton || !m_pressed) {
+        event->ignore();
         return;
     }
     m_pressed = false;
@@ -206,6 +247,51 @@ void ZelFrame::mouseReleaseEvent(QMouseEvent* event) {
     if (rect().contains(event->position().toPoint())) {
         emit clicked(event->position().toPoint());
     }
+}
+
+namespace {
+
+/// A frame as a screen reader sees it.
+class FrameAccessible : public QAccessibleWidget {
+  public:
+    explicit FrameAccessible(ZelFrame* frame) : QAccessibleWidget(frame, frame->accessibleRole()) {}
+
+    QString text(QAccessible::Text t) const override {
+        const auto* frame = static_cast<const ZelFrame*>(widget());
+        if (t == QAccessible::Name) {
+            return frame->accessibleName().isEmpty() ? frame->caption() : frame->accessibleName();
+        }
+        if (t == QAccessible::Value) {
+            return frame->accessibleValue();
+        }
+        return QAccessibleWidget::text(t);
+    }
+    QAccessible::Role role() const override {
+        return static_cast<const ZelFrame*>(widget())->accessibleRole();
+    }
+};
+
+QAccessibleInterface* frameFactory(const QString& className, QObject* object) {
+    if (object == nullptr || !object->isWidgetType()) {
+        return nullptr;
+    }
+    if (className == QLatin1String("zel::ZelFrame")) {
+        return new FrameAccessible(static_cast<ZelFrame*>(object));
+    }
+    if (className == QLatin1String("zel::MenuWindow")) {
+        return new QAccessibleWidget(static_cast<QWidget*>(object), QAccessible::Window);
+    }
+    return nullptr;
+}
+
+} // namespace
+
+void installFrameAccessibility() {
+    static const bool installed = [] {
+        QAccessible::installFactory(frameFactory);
+        return true;
+    }();
+    (void)installed;
 }
 
 } // namespace zel

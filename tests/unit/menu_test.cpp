@@ -178,5 +178,42 @@ TEST(InputRow, ATypedZeroIsAValueWhereThePageSaysSo) {
     }
 }
 
+TEST(Clipboard, PastesANumberAsTyped) {
+    const Symbols swiss{".", "'"};
+    const std::tuple<const char*, Symbols, const char*, const char*> cases[] = {
+        {"plain", Dot, "1234.5", "1,234.5"},
+        {"grouped", Dot, "1,234.5", "1,234.5"},
+        {"the regional grouping before three digits", Dot, "1,234", "1,234."},
+        {"a lone comma is the decimal symbol", Dot, "1,5", "1.5"},
+        {"German", Comma, "1.234,5", "1.234,5"},
+        {"a point typed in Germany", Comma, "12.5", "12,5"},
+        {"a German thousand", Comma, "1.234", "1.234,"},
+        {"negative", Dot, "-42", "-42."},
+        {"blanks and line ends", Dot, " 1 000\r\n", "1,000."},
+        {"apostrophes group in Switzerland", swiss, "1'234.5", "1'234.5"},
+        {"units are no number", Dot, "12 kg", "beep"},
+        {"nothing", Dot, "", "beep"},
+        {"a sign alone", Dot, "-", "beep"},
+    };
+    for (const auto& [name, symbols, text, shown] : cases) {
+        Calculator calc(symbols, page::Weight);
+        calc.menu.Form_Paste(text);
+        EXPECT_EQ(std::string(shown) == "beep" ? calc.lastEvent() : calc.menu.display(), shown)
+            << name;
+    }
+}
+
+TEST(Clipboard, CopiesTheDisplayAndThePage) {
+    Calculator calc(Comma, page::Wind);
+    calc.enter(1, "90");
+    calc.type("1234,5");
+    EXPECT_EQ(calc.menu.displayNumber(), "1234,5");
+    EXPECT_EQ(calc.menu.pageText(), "Wind\nHeading - °\t090\nTAS - kt\t\nCourse - °\t\n"
+                                    "Ground Speed - kt\t\nWind Direction - °\t\n"
+                                    "Wind Velocity - kt\t\nDrift - °\t\nWind Comp. - kt\t\n");
+    calc.enter(2, "");
+    EXPECT_EQ(calc.menu.rowText(2), "1234,50"); // without grouping
+}
+
 } // namespace
 } // namespace zel::test

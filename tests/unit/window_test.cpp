@@ -6,7 +6,12 @@
 #include "ui/menuwindow.h"
 #include "ui/qtinteraction.h"
 
+#include <QAccessible>
 #include <QApplication>
+#include <QClipboard>
+#include <QMenu>
+#include <QSettings>
+#include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
 #include <gtest/gtest.h>
@@ -42,8 +47,10 @@ class WindowTest : public ::testing::Test {
         QTest::keyClick(QApplication::focusWidget(), k, modifiers);
     }
 
+    QTemporaryDir folder; // what the window remembers goes here
+    QString memory = folder.path() + "/window.ini";
     Calculator calc;
-    MenuWindow window{calc.menu};
+    MenuWindow window{calc.menu, nullptr, memory};
 
   private:
     QTimer m_watch;
@@ -144,6 +151,108 @@ TEST_F(WindowTest, NoDigitIsCutOff) {
     EXPECT_FALSE(window.valueCell(3)->fit().shortened);
 }
 
+TEST_F(WindowTest, CopiesAndPastesThroughTheClipboard) {
+    QClipboard* clipboard = QApplication::clipboard();
+    key(Qt::Key_F1);
+    type("1234.5");
+    key(Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(clipboard->text(), "1234.5");
+    key(Qt::Key_2, Qt::ControlModifier);
+    key(Qt::Key_C, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_TRUE(
+        clipboard->text().startsWith("Weight\nkilogram - kg\t559.86\npound - lbs\t1234.50\n"))
+        << clipboard->text().toStdString();
+    window.rowMenu(1)->actions().at(0)->trigger(); // "Copy value"
+    EXPECT_EQ(clipboard->text(), "559.86");
+    clipboard->setText("1.234,5");
+    key(Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(window.display()->caption(), "1,234.5");
+    clipboard->setText("12 kg");
+    key(Qt::Key_Insert, Qt::ShiftModifier);
+    EXPECT_EQ(calc.lastEvent(), "beep");
+    EXPECT_EQ(window.display()->caption(), "1,234.5");
+    key(Qt::Key_F11);
+    clipboard->setText("R24/ 88 29\r\n01 40");
+    key(Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(window.display()->caption(), "24/88290");
+}
+
+TEST_F(WindowTest, ScreenReadersFindEveryControlByName) {
+    key(Qt::Key_F1);
+    type("1");
+    key(Qt::Key_2, Qt::ControlModifier);
+    // Every accessible object of the window: its name, role and value.
+    std::vector<std::tuple<QString, QAccessible::Role, QString>> found;
+    std::function<void(QAccessibleInterface*)> walk = [&](QAccessibleInterface* node) {
+        found.emplace_back(node->text(QAccessible::Name), node->role(),
+                           node->text(QAccessible::Value));
+        for (int i = 0; i < node->childCount(); ++i) {
+            walk(node->child(i));
+        }
+    };
+    walk(QAccessible::queryAccessibleInterface(&window));
+    const std::tuple<const char*, QAccessible::Role, const char*> expected[] = {
+        {"Weight", QAccessible::Heading, ""},
+        {"Weight", QAccessible::Button, ""},
+        {"Surface", QAccessible::Button, ""},
+        {"pound - lbs", QAccessible::Button, "1.00"},
+        {"kilogram - kg", QAccessible::Button, "0.45"},
+        {"M+", QAccessible::Button, ""},
+        {"Divide", QAccessible::Button, ""},
+        {"Display", QAccessible::StaticText, "0."},
+        {"Menu", QAccessible::Button, ""},
+    };
+    for (const auto& [name, role, value] : expected) {
+        EXPECT_NE(std::find(found.begin(), found.end(),
+                            std::tuple{QString::fromUtf8(name), role, QString::fromUtf8(value)}),
+                  found.end())
+            << name;
+    }
+    for (const auto& [name, role, value] : found) {
+        // No unnamed filler: every object says what it is. An empty row's
+        // unit has no name, as the row is not there.
+        EXPECT_TRUE(!name.isEmpty() || role == QAccessible::StaticText) << role;
+        EXPECT_NE(role, QAccessible::Client) << name.toStdString();
+    }
+    EXPECT_EQ(window.unitCell(2)->toolTip(), "pound - lbs");
+}
+
+TEST_F(WindowTest, ZoomPaletteAndPlaceAreRemembered) {
+    key(Qt::Key_Plus, Qt::ControlModifier);
+    key(Qt::Key_Plus, Qt::ControlModifier);
+    EXPECT_EQ(window.zoom(), 1.5);
+    EXPECT_EQ(window.width(), qRound(MenuWindow::DesignWidth * 1.5));
+    EXPECT_EQ(window.pageButton(1)->height(), qRound(57 * 1.5));
+    key(Qt::Key_N, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_TRUE(window.night());
+    key(Qt::Key_F1);
+    type("5");
+    key(Qt::Key_1, Qt::ControlModifier);
+    EXPECT_EQ(window.valueCell(1)->textColor(), QColor(255, 190, 0)); // the input row at night
+    EXPECT_NE(window.valueCell(2)->textColor(), QColor(0, 69, 125));
+    {
+        Calculator again;
+        MenuWindow second(again.menu, nullptr, memory);
+        EXPECT_EQ(second.zoom(), 1.5);
+        EXPECT_TRUE(second.night());
+    }
+    key(Qt::Key_0, Qt::ControlModifier);
+    key(Qt::Key_Minus, Qt::ControlModifier);
+    EXPECT_EQ(window.zoom(), 1.0);
+    QSettings(memory, QSettings::IniFormat).setValue("position", QPoint(-30000, -30000));
+    Calculator again;
+    MenuWindow offScreen(again.menu, nullptr, memory);
+    EXPECT_NE(offScreen.pos(), QPoint(-30000, -30000));
+}
+
+TEST_F(WindowTest, TheAboutBoxTellsVersionKeysSettingsRatesAndLicence) {
+    const QString about = window.aboutText();
+    for (const char* part : {"zelFLIGHTAB 0.1.0", "Ctrl+1 … Ctrl+8", "/pilot/Tech/zelFLIGHTAB.ini",
+                             "No rates stored yet", "GNU General Public License"}) {
+        EXPECT_TRUE(about.contains(QString::fromUtf8(part))) << part;
+    }
+}
+
 /// Real message boxes, closed by a key press as a user closes them; the
 /// release of that key then reaches the window, as it does on a desktop.
 class DialogTest : public ::testing::Test {
@@ -181,7 +290,8 @@ class DialogTest : public ::testing::Test {
     Dialogs dialogs;
     Platform platform = machine.with(dialogs);
     Menu menu{platform};
-    MenuWindow window{menu, &dialogs};
+    QTemporaryDir folder;
+    MenuWindow window{menu, &dialogs, folder.path() + "/window.ini"};
     int opened = 0;
 
   private:

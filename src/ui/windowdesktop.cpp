@@ -1,0 +1,231 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 zelFLIGHTAB developers
+// What a pilot expects of a desktop program besides the calculator: the
+// clipboard, zoom, a night palette, a window that comes back where it was,
+// and an About box.
+#include "app/options.h"
+#include "ui/menuwindow.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QCloseEvent>
+#include <QContextMenuEvent>
+#include <QKeyEvent>
+#include <QMenu>
+#include <QMessageBox>
+#include <QScreen>
+#include <QSettings>
+#include <QStandardPaths>
+
+#include <algorithm>
+
+namespace zel {
+namespace {
+
+/// Where the window keeps what it remembers, apart from the rates file.
+QString memoryPath(const QString& chosen) {
+    return chosen.isEmpty() ? QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation) +
+                                  QStringLiteral("/window.ini")
+                            : chosen;
+}
+
+/// A desktop whose windows are dark wants the night palette.
+bool darkDesktop() {
+    return QApplication::palette().color(QPalette::Window).lightnessF() < 0.5;
+}
+
+QString escaped(const std::string& text) {
+    return QString::fromStdString(text).toHtmlEscaped();
+}
+
+} // namespace
+
+void MenuWindow::recallSettings() {
+    // The zoom and palette as they were left; the palette of a dark desktop
+    // until the user chooses one.
+    QSettings memory(memoryPath(m_memoryFile), QSettings::IniFormat);
+    const qreal zoom = memory.value(QStringLiteral("zoom"), 1.0).toDouble();
+    m_zoom = std::find(Zooms.begin(), Zooms.end(), zoom) != Zooms.end() ? zoom : 1.0;
+    const QString palette = memory.value(QStringLiteral("palette")).toString();
+    m_nightChosen = !palette.isEmpty();
+    m_night = m_nightChosen ? palette == QLatin1String("night") : darkDesktop();
+}
+
+void MenuWindow::restyle() {
+    if (!m_nightChosen) {
+        m_night = darkDesktop();
+    }
+    setFixedSize(QSize(DesignWidth, DesignHeight) * m_zoom);
+    for (const Placed& placed : m_placed) {
+        if (placed.widget == nullptr) {
+            continue;
+        }
+        const QRect r = placed.geometry;
+        placed.widget->setGeometry(
+            QRect(QPoint(qRound(r.x() * m_zoom), qRound(r.y() * m_zoom)),
+                  QSize(qRound(r.width() * m_zoom), qRound(r.height() * m_zoom))));
+        if (auto* f = qobject_cast<ZelFrame*>(placed.widget.data()); f && placed.look) {
+            f->setStyle(lookStyle(*placed.look, m_night)); // render colours what has a state
+            f->setScale(m_zoom);
+        }
+    }
+    m_rowsPanel->setLineColor(textColours(m_night).line);
+    refreshIcons();
+    render();
+}
+
+void MenuWindow::refreshIcons() {
+    const qreal ratio = devicePixelRatioF();
+    m_iconRatio = ratio;
+    const TextColours& colours = textColours(m_night);
+    const int page = m_menu.face() == Face::Page ? m_menu.currentPage() : 0;
+    m_titleIcon->setIcon(pageIcon(page, qRound(24 * m_zoom), colours.row, ratio));
+    for (int p = 1; p < static_cast<int>(m_pageButtons.size()); ++p) {
+        if (ZelFrame* button = m_pageButtons[static_cast<std::size_t>(p)]) {
+            button->setIcon(pageIcon(p, qRound(22 * m_zoom), colours.pageButtonText, ratio));
+        }
+    }
+    QIcon icon;
+    for (int size : {16, 32, 64, 128}) {
+        icon.addPixmap(pageIcon(0, size, textColours(false).row, 1));
+    }
+    setWindowIcon(icon);
+}
+
+void MenuWindow::setZoom(qreal zoom) {
+    if (std::find(Zooms.begin(), Zooms.end(), zoom) == Zooms.end() || zoom == m_zoom) {
+        return;
+    }
+    m_zoom = zoom;
+    restyle();
+    rememberSettings();
+}
+
+void MenuWindow::setNight(bool night) {
+    m_night = night;
+    m_nightChosen = true;
+    restyle();
+    rememberSettings();
+}
+
+void MenuWindow::rememberSettings() {
+    QSettings memory(memoryPath(m_memoryFile), QSettings::IniFormat);
+    memory.setValue(QStringLiteral("zoom"), m_zoom);
+    if (m_nightChosen) {
+        memory.setValue(QStringLiteral("palette"), m_night ? "night" : "day");
+    }
+    if (m_shown) {
+        memory.setValue(QStringLiteral("position"), pos());
+    }
+}
+
+void MenuWindow::restorePosition() {
+    QSettings memory(memoryPath(m_memoryFile), QSettings::IniFormat);
+    const QVariant stored = memory.value(QStringLiteral("position"));
+    if (!stored.isValid()) {
+        return; // the window manager places a new window
+    }
+    // A place off every screen there is now (a screen unplugged) is not used.
+    const QPoint at = stored.toPoint();
+    const QRect title(at, QSize(width(), 36 * m_zoom));
+    for (const QScreen* screen : QGuiApplication::screens()) {
+        if (screen->availableGeometry().intersects(title)) {
+            move(at);
+            return;
+        }
+    }
+}
+
+void MenuWindow::closeEvent(QCloseEvent* event) {
+    rememberSettings();
+    QWidget::closeEvent(event);
+}
+
+void MenuWindow::copy(const std::string& text) {
+    QGuiApplication::clipboard()->setText(QString::fromStdString(text));
+}
+
+void MenuWindow::paste() {
+    act([this] { m_menu.Form_Paste(QGuiApplication::clipboard()->text().toStdString()); });
+}
+
+QMenu* MenuWindow::rowMenu(int row) {
+    auto* menu = new QMenu(this);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    menu->addAction(QStringLiteral("Copy value"), this, [this, row] { copy(m_menu.rowText(row)); });
+    menu->addAction(QStringLiteral("Copy page"), this, [this] { copy(m_menu.pageText()); });
+    return menu;
+}
+
+void MenuWindow::contextMenuEvent(QContextMenuEvent* event) {
+    const int row = rowOf(childAt(event->pos()));
+    if (m_menu.face() == Face::Page && row != 0 && !m_menu.row(row).unit.empty()) {
+        rowMenu(row)->popup(event->globalPos());
+    }
+}
+
+QString MenuWindow::aboutText() {
+    const std::pair<const char*, const char*> keys[] = {
+        {"F1 – F12", "open Weight … Fuel Uplift, Snowtam, Wind Comp"},
+        {"arrows, Tab, Shift+Tab", "move the focus"},
+        {"Enter", "opens the focused page; the result of a calculation; decodes a report"},
+        {"Space", "presses the focused key or row"},
+        {"digits , . + - * x / Backspace", "type the number and work it out"},
+        {"Ctrl+1 … Ctrl+8", "click row 1 … 8"},
+        {"Alt+M, Alt+Left", "back to the menu"},
+        {"Escape", "clears; on the menu, quits"},
+        {"Ctrl+C, Ctrl+Shift+C", "copy the display, copy the page"},
+        {"Ctrl+V, Shift+Insert", "paste a number or a report"},
+        {"Ctrl+plus, Ctrl+minus, Ctrl+0", "zoom in, out, back to 100 %"},
+        {"Ctrl+Shift+N", "night palette on or off"},
+        {"Shift+F1", "this box"},
+    };
+    QString table;
+    for (const auto& [key, action] : keys) {
+        table += QStringLiteral("<tr><td><b>%1</b></td><td>%2</td></tr>")
+                     .arg(QString::fromUtf8(key), QString::fromUtf8(action));
+    }
+    return QStringLiteral("<h3>%1</h3><p>A calculator for aircraft pilots.</p>"
+                          "<table cellspacing='4'>%2</table>"
+                          "<p>Settings file: %3<br>%4</p>"
+                          "<p>This program is free software under the GNU General Public "
+                          "License, version 3 or any later version. It comes with absolutely "
+                          "no warranty; it is no substitute for the aircraft's documents.</p>")
+        .arg(escaped(versionText()), table, escaped(m_menu.settingsFile()),
+             escaped(m_menu.ratesNote()));
+}
+
+void MenuWindow::showAbout() {
+    QMessageBox box(QMessageBox::NoIcon, QStringLiteral("About zelFLIGHTAB"), aboutText(),
+                    QMessageBox::Ok, this);
+    box.setTextFormat(Qt::RichText);
+    box.setIconPixmap(pageIcon(0, 48, textColours(false).row, devicePixelRatioF()));
+    box.exec();
+}
+
+bool MenuWindow::shortcut(QKeyEvent* e) {
+    const Qt::KeyboardModifiers modifiers = e->modifiers() & ~Qt::KeypadModifier;
+    const bool ctrl = modifiers == Qt::ControlModifier;
+    const bool ctrlShift = modifiers == (Qt::ControlModifier | Qt::ShiftModifier);
+    const auto step = std::find(Zooms.begin(), Zooms.end(), m_zoom) - Zooms.begin();
+    if (e->matches(QKeySequence::Paste)) {
+        paste();
+    } else if (ctrlShift && e->key() == Qt::Key_C) {
+        copy(m_menu.pageText());
+    } else if (ctrl && e->key() == Qt::Key_C) {
+        copy(m_menu.displayNumber());
+    } else if (ctrlShift && e->key() == Qt::Key_N) {
+        setNight(!m_night);
+    } else if ((ctrl || ctrlShift) && (e->key() == Qt::Key_Plus || e->key() == Qt::Key_Equal)) {
+        setZoom(Zooms[static_cast<std::size_t>(std::min<long>(step + 1, Zooms.size() - 1))]);
+    } else if (ctrl && e->key() == Qt::Key_Minus) {
+        setZoom(Zooms[static_cast<std::size_t>(std::max<long>(step - 1, 0))]);
+    } else if (ctrl && e->key() == Qt::Key_0) {
+        setZoom(1.0);
+    } else {
+        return false;
+    }
+    return true;
+}
+
+} // namespace zel
