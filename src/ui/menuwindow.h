@@ -154,6 +154,7 @@ class MenuWindow : public QWidget {
     /// Keys whose press reached this window: only their release acts, never
     /// the release of a key that closed a dialog.
     std::set<int> m_pressed;
+    bool m_aboutKey = false; ///< F1 went down with Shift
 };
 
 /// The icon of a page (0: the application), drawn in one colour at a size.

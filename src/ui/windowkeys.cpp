@@ -12,6 +12,7 @@
 #include <QKeyEvent>
 
 #include <algorithm>
+#include <utility>
 
 namespace zel {
 namespace {
@@ -81,6 +82,10 @@ bool MenuWindow::focusNextPrevChild(bool next) {
 
 void MenuWindow::keyPressEvent(QKeyEvent* e) {
     m_pressed.insert(e->key());
+    if (e->key() == Qt::Key_F1) {
+        // Shift+F1 is About, whichever key is let go first.
+        m_aboutKey = e->modifiers() == Qt::ShiftModifier;
+    }
     if (shortcut(e)) {
         return;
     }
@@ -130,7 +135,7 @@ void MenuWindow::keyReleaseEvent(QKeyEvent* e) {
     if (e->isAutoRepeat() || m_pressed.erase(e->key()) == 0) {
         return; // its press went to a dialog, or was repeated
     }
-    if (e->key() == Qt::Key_F1 && e->modifiers() == Qt::ShiftModifier) {
+    if (e->key() == Qt::Key_F1 && std::exchange(m_aboutKey, false)) {
         showAbout();
         return;
     }

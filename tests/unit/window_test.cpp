@@ -328,6 +328,15 @@ TEST_F(DialogTest, EscapeThatClosesABoxNeitherClearsNorQuits) {
     EXPECT_EQ(menu.row(1).tag, "1000");
 }
 
+TEST_F(DialogTest, ShiftF1OpensAboutWhicheverKeyIsLetGoFirst) {
+    start(Qt::Key_Return);
+    QTest::keyPress(&window, Qt::Key_F1, Qt::ShiftModifier);
+    QTest::keyRelease(&window, Qt::Key_F1); // Shift already up
+    releaseCloser();
+    EXPECT_EQ(opened, 1);
+    EXPECT_EQ(menu.face(), Face::Menu); // F1 did not open Weight
+}
+
 } // namespace
 } // namespace zel::test
 
