@@ -1,25 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // SPDX-FileCopyrightText: 2026 zelFLIGHTAB developers
-// The smallest Qt Widgets window, the yardstick for start-up: it ends at its
-// first painted frame when ZEL_EXIT_AFTER_FIRST_FRAME is set.
+// The smallest Qt Widgets program, the yardstick for the window's start-up: it
+// shows one label and saves its first frame, as zelflightab --screenshot does.
+// The label is as large as zelFLIGHTAB's window at 100 %, so that both save
+// pictures of the same size.
 #include <QApplication>
-#include <QPaintEvent>
-#include <QTimer>
-#include <QWidget>
-
-class Minimal : public QWidget {
-  protected:
-    void paintEvent(QPaintEvent*) override {
-        if (qEnvironmentVariableIsSet("ZEL_EXIT_AFTER_FIRST_FRAME")) {
-            QTimer::singleShot(0, qApp, &QApplication::quit);
-        }
-    }
-};
+#include <QLabel>
 
 int main(int argc, char** argv) {
     QApplication app(argc, argv);
-    Minimal window;
-    window.resize(295, 413);
-    window.show();
-    return QApplication::exec();
+    QLabel label(QStringLiteral("zelFLIGHTAB"));
+    label.resize(295, 535);
+    label.show();
+    return argc > 1 && label.grab().save(QString::fromLocal8Bit(argv[1])) ? 0 : 1;
 }

@@ -1,74 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // SPDX-FileCopyrightText: 2026 zelFLIGHTAB developers
+// zelflightab: the window, or the calculator in the terminal. The terminal's
+// ways (--convert, --console, --help, --version) need Qt Core only; the
+// window's libraries are loaded from a module when a window opens.
 #include "app/options.h"
 #include "console/console.h"
+#include "platform/modules.h"
 #include "platform/sharedplatform.h"
-#include "ui/menuwindow.h"
-#include "ui/qtinteraction.h"
 
-#include <QApplication>
-#include <QTemporaryDir>
+#include <QCoreApplication>
 
-#include <fstream>
 #include <iostream>
-
-namespace {
-
-/// --zoom and --palette, when given.
-void applyLook(zel::MenuWindow& window, const zel::Options& options) {
-    if (options.zoom) {
-        window.setZoom(std::stod(*options.zoom) / 100);
-    }
-    if (options.palette) {
-        window.setNight(*options.palette == "night");
-    }
-}
-
-/// `--script FILE --screenshot OUT.png`: console commands against the real
-/// window, then a picture of it. Dialogs are printed as the console prints them.
-int runScript(zel::SharedPlatform& shared, const zel::Options& options) {
-    std::ifstream file(*options.script);
-    if (!file) {
-        std::cerr << "error: cannot read " << *options.script << '\n';
-        return 2;
-    }
-    zel::ConsoleInteraction interaction(std::cout);
-    zel::Platform platform = shared.with(interaction);
-    zel::Menu menu(platform);
-    // A picture shows the window as it starts, whatever the user's window did.
-    const QTemporaryDir memory;
-    zel::MenuWindow window(menu, nullptr, memory.path() + "/window.ini");
-    applyLook(window, options);
-    zel::ConsoleSession session(menu, interaction, std::cout);
-    session.start();
-    std::string line;
-    for (int number = 1; !session.finished() && std::getline(file, line); ++number) {
-        if (const auto error = session.run(line)) {
-            std::cerr << "error: line " << number << ": " << *error << '\n';
-            return 2;
-        }
-    }
-    window.render();
-    if (options.screenshot && !window.grab().save(QString::fromStdString(*options.screenshot))) {
-        std::cerr << "error: cannot write " << *options.screenshot << '\n';
-        return 2;
-    }
-    return 0;
-}
-
-int runWindow(zel::SharedPlatform& shared, const zel::Options& options) {
-    zel::QtInteraction interaction;
-    zel::Platform platform = shared.with(interaction);
-    zel::Menu menu(platform);
-    zel::MenuWindow window(menu, &interaction);
-    applyLook(window, options);
-    interaction.setParent(&window);
-    interaction.setFlash([&window] { window.flash(); });
-    window.show();
-    return QApplication::exec();
-}
-
-} // namespace
 
 int main(int argc, char** argv) {
     const zel::Options options = zel::parseOptions(std::vector<std::string>(argv + 1, argv + argc));
@@ -84,11 +26,17 @@ int main(int argc, char** argv) {
         std::cout << zel::versionText() << '\n';
         return 0;
     }
-    // The text front ends need no display; HTTP still needs an event loop.
-    const bool text = options.console || !options.convert.empty();
-    std::unique_ptr<QCoreApplication> application =
-        text ? std::make_unique<QCoreApplication>(argc, argv)
-             : std::make_unique<QApplication>(argc, argv);
+    if (!options.console && options.convert.empty()) {
+        std::string error;
+        void* entry = zel::modules::load("window", "zelflightab_window_main", error);
+        if (entry == nullptr) {
+            std::cerr << "error: cannot open the window: " << error << '\n';
+            return 2;
+        }
+        return reinterpret_cast<int (*)(int, char**)>(entry)(argc, argv);
+    }
+    // HTTP, when a download starts, runs in this application's event loop.
+    QCoreApplication application(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("zelFLIGHTAB"));
     QCoreApplication::setApplicationVersion(QString::fromStdString(zel::versionText()));
     std::string error;
@@ -98,14 +46,5 @@ int main(int argc, char** argv) {
         std::cerr << "error: " << error << '\n';
         return 2;
     }
-    if (options.console) {
-        return zel::runConsole(options, *shared);
-    }
-    if (!options.convert.empty()) {
-        return zel::runConvert(options, *shared);
-    }
-    if (options.script) {
-        return runScript(*shared, options);
-    }
-    return runWindow(*shared, options);
+    return options.console ? zel::runConsole(options, *shared) : zel::runConvert(options, *shared);
 }

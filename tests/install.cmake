@@ -10,6 +10,8 @@ if(NOT status EQUAL 0)
 endif()
 foreach(path
         bin/zelflightab
+        lib/zelflightab/zelflightab-window.so
+        lib/zelflightab/zelflightab-http.so
         share/applications/zelflightab.desktop
         share/metainfo/io.github.zelflightab.zelflightab.metainfo.xml
         share/icons/hicolor/scalable/apps/zelflightab.svg
@@ -30,4 +32,13 @@ endif()
 file(READ ${WORK}/home/.local/share/zelFLIGHTAB/Tech/zelFLIGHTAB.ini settings)
 if(NOT settings MATCHES "; installed copy")
     message(FATAL_ERROR "the settings were not copied from the installed file:\n${settings}")
+endif()
+# The installed program finds its window module.
+file(WRITE ${WORK}/empty.script "")
+execute_process(
+    COMMAND ${CMAKE_COMMAND} -E env HOME=${WORK}/home QT_QPA_PLATFORM=offscreen
+            ${WORK}/usr/bin/zelflightab --script ${WORK}/empty.script --screenshot ${WORK}/window.png
+    RESULT_VARIABLE status)
+if(NOT status EQUAL 0 OR NOT EXISTS ${WORK}/window.png)
+    message(FATAL_ERROR "the installed program drew no window (${status})")
 endif()

@@ -2,7 +2,7 @@
 // SPDX-FileCopyrightText: 2026 zelFLIGHTAB developers
 #pragma once
 
-#include "platform/qthttp.h"
+#include "platform/lazynetwork.h"
 #include "platform/qtregional.h"
 #include "platform/qtstorage.h"
 
@@ -20,7 +20,7 @@ struct SharedPlatform {
 
     QtRegional regional;
     QtStorage storage;
-    QtHttp network;
+    LazyNetwork network; ///< loads Qt Network when a download starts
     QtClock clock;
 
     Platform with(Interaction& ui) { return {ui, regional, storage, network, clock}; }

@@ -7,8 +7,9 @@
 
 #include <QApplication>
 #include <QEvent>
+#include <QFile>
+#include <QImageReader>
 #include <QPainter>
-#include <QSvgRenderer>
 #include <QTimer>
 
 #include <cmath>
@@ -17,6 +18,7 @@
 // The icons are compiled into this library; a static library must load them itself.
 static void loadIcons() {
     Q_INIT_RESOURCE(icons);
+    Q_INIT_RESOURCE(baked);
 }
 
 namespace zel {
@@ -43,17 +45,30 @@ QString text(std::string_view s) {
 } // namespace
 
 QPixmap pageIcon(int page, int size, const QColor& color, qreal devicePixelRatio) {
-    QSvgRenderer svg(
-        QStringLiteral(":/icons/%1.svg").arg(IconNames.at(static_cast<std::size_t>(page))));
-    QPixmap pixmap(QSize(size, size) * devicePixelRatio);
-    pixmap.fill(Qt::transparent);
-    {
-        QPainter p(&pixmap);
-        p.setRenderHint(QPainter::Antialiasing);
-        svg.render(&p);
+    const QString name = QString::fromLatin1(IconNames.at(static_cast<std::size_t>(page)));
+    const int side = qRound(size * devicePixelRatio);
+    // The sizes the window opens with were drawn at build time, as masks; any
+    // other is drawn from the SVG, so that the icon is sharp at every zoom.
+    QImage image(side, side, QImage::Format_ARGB32_Premultiplied);
+    QFile baked(QStringLiteral(":/baked/%1_%2.mask").arg(name).arg(side));
+    if (baked.open(QIODevice::ReadOnly) && baked.size() == side * side) {
+        const QByteArray bytes = baked.readAll();
+        const QImage mask(reinterpret_cast<const uchar*>(bytes.constData()), side, side, side,
+                          QImage::Format_Alpha8);
+        image.fill(color);
+        QPainter p(&image);
+        p.setCompositionMode(QPainter::CompositionMode_DestinationIn);
+        p.drawImage(0, 0, mask);
+    } else {
+        // Qt's SVG image plugin, loaded the first time another size is drawn.
+        QImageReader reader(QStringLiteral(":/icons/%1.svg").arg(name));
+        reader.setScaledSize(QSize(side, side));
+        image = reader.read().convertToFormat(QImage::Format_ARGB32_Premultiplied);
+        QPainter p(&image);
         p.setCompositionMode(QPainter::CompositionMode_SourceIn);
-        p.fillRect(pixmap.rect(), color);
+        p.fillRect(image.rect(), color);
     }
+    QPixmap pixmap = QPixmap::fromImage(image);
     pixmap.setDevicePixelRatio(devicePixelRatio);
     return pixmap;
 }
@@ -67,8 +82,9 @@ ZelFrame* MenuWindow::frame(Look look, QWidget* parent, QRect geometry, const QS
 }
 
 MenuWindow::MenuWindow(Menu& menu, QtInteraction* interaction, const QString& memoryFile,
-                       QWidget* parent)
-    : QWidget(parent), m_menu(menu), m_interaction(interaction), m_memoryFile(memoryFile) {
+                       bool remember, QWidget* parent)
+    : QWidget(parent), m_menu(menu), m_interaction(interaction), m_memoryFile(memoryFile),
+      m_remember(remember) {
     loadIcons();
     installFrameAccessibility();
     setWindowTitle(QStringLiteral("zelFLIGHTAB"));
@@ -110,9 +126,7 @@ MenuWindow::MenuWindow(Menu& menu, QtInteraction* interaction, const QString& me
     restorePosition();
 }
 
-MenuWindow::~MenuWindow() {
-    rememberSettings();
-}
+MenuWindow::~MenuWindow() = default;
 
 void MenuWindow::buildMenuFace() {
     // Three columns by eight lines, in page order.
@@ -274,8 +288,11 @@ void MenuWindow::render() {
     }
     m_menuButton->setVisible(page);
     const int iconPage = page ? m_menu.currentPage() : 0;
-    if (iconPage != m_shownIconPage || m_iconRatio != devicePixelRatioF()) {
-        refreshIcons();
+    if (m_iconRatio != devicePixelRatioF()) {
+        refreshIcons(); // drawn anew for the screen's pixel ratio
+    } else if (iconPage != m_shownIconPage) {
+        m_titleIcon->setIcon(
+            pageIcon(iconPage, qRound(24 * m_zoom), textColours(m_night).row, m_iconRatio));
         m_shownIconPage = iconPage;
     }
     m_title->setCaption(page ? text(m_menu.title()) : QStringLiteral("zelFLIGHTAB"));
@@ -304,7 +321,10 @@ void MenuWindow::render() {
     m_display->setShortForm(report ? ZelFrame::ShortForm() : [this](int digits) {
         return text(exponentText(m_menu.scratchPad().inputValue(), digits, m_menu.symbols()));
     });
-    m_display->setToolTip(m_display->fit().shortened ? m_display->caption() : QString());
+    if (page) {
+        // What is not seen is not measured: the page face's fonts wait for it.
+        m_display->setToolTip(m_display->fit().shortened ? m_display->caption() : QString());
+    }
     renderRows();
     if (m_menu.face() != m_shownFace) {
         // A keyboard user keeps a place to start from on the other face: the
@@ -351,8 +371,9 @@ void MenuWindow::renderRows() {
         // To a screen reader the row is its unit, with the value it holds.
         value->setAccessibleName(text(cell.unit));
         value->setAccessibleValue(text(cell.caption));
-        value->setToolTip(value->fit().shortened || value->fit().wrapped ? text(cell.caption)
-                                                                         : text(cell.unit));
+        const bool whole = m_menu.face() != Face::Page || cell.caption.empty() ||
+                           !(value->fit().shortened || value->fit().wrapped);
+        value->setToolTip(whole ? text(cell.unit) : text(cell.caption));
         m_bands[static_cast<std::size_t>(row)]->setVisible(cell.input);
     }
 }
@@ -373,6 +394,11 @@ bool MenuWindow::event(QEvent* e) {
         m_shown = true;
         m_skipActivation = true;
         setFocus(Qt::OtherFocusReason); // no control has the focus until Tab gives it one
+        QIcon icon;                     // for the window manager and the task bar
+        for (int size : {16, 32, 64, 128}) {
+            icon.addPixmap(pageIcon(0, size, textColours(false).row, 1));
+        }
+        setWindowIcon(icon);
         act([this] { m_menu.Form_Activate(); });
     } else if (e->type() == QEvent::WindowActivate) {
         const bool ownDialog = m_interaction && m_interaction->takeDialogClosed();

@@ -32,9 +32,11 @@ class MenuWindow : public QWidget {
     /// `interaction` is told when its dialogs close, so that the window's own
     /// re-activation after a message box is not taken for the user's return.
     /// `memoryFile` keeps the zoom, palette and position; empty: the user's
-    /// configuration folder.
+    /// configuration folder. A window that does not `remember` starts at 100 %
+    /// in the desktop's palette and writes nothing (a picture for the README).
     explicit MenuWindow(Menu& menu, QtInteraction* interaction = nullptr,
-                        const QString& memoryFile = {}, QWidget* parent = nullptr);
+                        const QString& memoryFile = {}, bool remember = true,
+                        QWidget* parent = nullptr);
     ~MenuWindow() override;
 
     /// Draws the state of Menu.
@@ -118,6 +120,7 @@ class MenuWindow : public QWidget {
     Menu& m_menu;
     QtInteraction* m_interaction;
     QString m_memoryFile;
+    bool m_remember = true;
     ZelFrame* m_titleBar = nullptr;
     ZelFrame* m_titleIcon = nullptr;
     ZelFrame* m_title = nullptr;

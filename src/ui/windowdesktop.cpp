@@ -43,6 +43,10 @@ QString escaped(const std::string& text) {
 void MenuWindow::recallSettings() {
     // The zoom and palette as they were left; the palette of a dark desktop
     // until the user chooses one.
+    if (!m_remember) {
+        m_night = darkDesktop();
+        return;
+    }
     QSettings memory(memoryPath(m_memoryFile), QSettings::IniFormat);
     const qreal zoom = memory.value(QStringLiteral("zoom"), 1.0).toDouble();
     m_zoom = std::find(Zooms.begin(), Zooms.end(), zoom) != Zooms.end() ? zoom : 1.0;
@@ -80,16 +84,12 @@ void MenuWindow::refreshIcons() {
     const TextColours& colours = textColours(m_night);
     const int page = m_menu.face() == Face::Page ? m_menu.currentPage() : 0;
     m_titleIcon->setIcon(pageIcon(page, qRound(24 * m_zoom), colours.row, ratio));
+    m_shownIconPage = page;
     for (int p = 1; p < static_cast<int>(m_pageButtons.size()); ++p) {
         if (ZelFrame* button = m_pageButtons[static_cast<std::size_t>(p)]) {
             button->setIcon(pageIcon(p, qRound(22 * m_zoom), colours.pageButtonText, ratio));
         }
     }
-    QIcon icon;
-    for (int size : {16, 32, 64, 128}) {
-        icon.addPixmap(pageIcon(0, size, textColours(false).row, 1));
-    }
-    setWindowIcon(icon);
 }
 
 void MenuWindow::setZoom(qreal zoom) {
@@ -109,6 +109,11 @@ void MenuWindow::setNight(bool night) {
 }
 
 void MenuWindow::rememberSettings() {
+    // Written when something to remember changed: the zoom, the palette
+    // chosen, or the place of a window that closes.
+    if (!m_remember) {
+        return;
+    }
     QSettings memory(memoryPath(m_memoryFile), QSettings::IniFormat);
     memory.setValue(QStringLiteral("zoom"), m_zoom);
     if (m_nightChosen) {
@@ -120,6 +125,9 @@ void MenuWindow::rememberSettings() {
 }
 
 void MenuWindow::restorePosition() {
+    if (!m_remember) {
+        return;
+    }
     QSettings memory(memoryPath(m_memoryFile), QSettings::IniFormat);
     const QVariant stored = memory.value(QStringLiteral("position"));
     if (!stored.isValid()) {

@@ -8,6 +8,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPainterPath>
+#include <QPixmapCache>
 
 namespace zel {
 
@@ -164,8 +165,33 @@ ZelFrame::Fit ZelFrame::fit() const {
     return {m_caption, smallest, false, true};
 }
 
-void ZelFrame::paintEvent(QPaintEvent*) {
-    QPainter p(this);
+QPixmap ZelFrame::face() const {
+    QColor top = m_style.top;
+    QColor bottom = m_style.bottom;
+    if (m_pressed || m_highlighted) {
+        std::swap(top, bottom);
+        top = top.lighter(m_highlighted ? 160 : 110);
+    }
+    // Faces of one look and size are drawn once: the page buttons share theirs.
+    const qreal ratio = devicePixelRatioF();
+    const QString key = QStringLiteral("zelframe %1x%2 %3 %4 %5 %6 %7 %8 %9")
+                            .arg(width())
+                            .arg(height())
+                            .arg(ratio)
+                            .arg(m_scale)
+                            .arg(top.rgba())
+                            .arg(bottom.rgba())
+                            .arg(m_style.border.isValid() ? m_style.border.rgba() : 0)
+                            .arg(m_style.radius)
+                            .arg(m_style.shadow);
+    QPixmap pixmap;
+    if (QPixmapCache::find(key, &pixmap)) {
+        return pixmap;
+    }
+    pixmap = QPixmap(size() * ratio);
+    pixmap.setDevicePixelRatio(ratio);
+    pixmap.fill(Qt::transparent);
+    QPainter p(&pixmap);
     p.setRenderHint(QPainter::Antialiasing);
     const QRectF area = QRectF(rect()).adjusted(0.5, 0.5, -1.5, -1.5);
     const qreal r = m_style.radius * m_scale;
@@ -174,22 +200,31 @@ void ZelFrame::paintEvent(QPaintEvent*) {
         shadow.addRoundedRect(area.translated(m_scale, 1.2 * m_scale), r, r);
         p.fillPath(shadow, QColor(0, 0, 0, 55));
     }
-    QPainterPath face;
-    face.addRoundedRect(area, r, r);
+    QPainterPath outline;
+    outline.addRoundedRect(area, r, r);
     QLinearGradient fill(area.topLeft(), area.bottomLeft());
-    QColor top = m_style.top;
-    QColor bottom = m_style.bottom;
-    if (m_pressed || m_highlighted) {
-        std::swap(top, bottom);
-        top = top.lighter(m_highlighted ? 160 : 110);
-    }
     fill.setColorAt(0, top);
     fill.setColorAt(1, bottom);
-    p.fillPath(face, fill);
+    p.fillPath(outline, fill);
     if (m_style.border.isValid()) {
         p.setPen(QPen(m_style.border, m_scale));
-        p.drawPath(face);
+        p.drawPath(outline);
     }
+    p.end();
+    QPixmapCache::insert(key, pixmap);
+    return pixmap;
+}
+
+void ZelFrame::paintEvent(QPaintEvent*) {
+    QPainter p(this);
+    const QRectF area = QRectF(rect()).adjusted(0.5, 0.5, -1.5, -1.5);
+    const qreal r = m_style.radius * m_scale;
+    const bool bare = m_style.top.alpha() == 0 && m_style.bottom.alpha() == 0 &&
+                      !m_style.border.isValid() && !m_style.shadow && !m_highlighted;
+    if (!bare) {
+        p.drawPixmap(0, 0, face());
+    }
+    p.setRenderHint(QPainter::Antialiasing);
     for (const QRectF& line : m_lines) {
         p.fillRect(QRectF(line.topLeft() * m_scale, line.size() * m_scale), m_lineColor);
     }

@@ -94,6 +94,8 @@ class ZelFrame : public QWidget {
 
   private:
     QRectF textArea() const;
+    /// The rounded, gradient-filled face, without caption.
+    QPixmap face() const;
 
     Style m_style;
     QString m_caption;

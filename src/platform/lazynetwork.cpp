@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 zelFLIGHTAB developers
+#include "platform/lazynetwork.h"
+
+#include "platform/modules.h"
+
+namespace zel {
+
+LazyNetwork::LazyNetwork() = default;
+LazyNetwork::~LazyNetwork() = default;
+
+Network* LazyNetwork::network() {
+    if (!m_network && m_error.empty()) {
+        if (void* create = modules::load("http", "zelflightab_create_network", m_error)) {
+            m_network.reset(reinterpret_cast<decltype(&zelflightab_create_network)>(create)());
+        }
+    }
+    return m_network.get();
+}
+
+bool LazyNetwork::connected(std::string& connectionType) {
+    if (Network* real = network()) {
+        return real->connected(connectionType);
+    }
+    connectionType = "Unknown";
+    return true; // the transfer will say what is missing
+}
+
+HttpReply LazyNetwork::get(const std::string& url) {
+    if (Network* real = network()) {
+        return real->get(url);
+    }
+    return {false, 1, "Cannot load the download module: " + m_error, {}};
+}
+
+} // namespace zel

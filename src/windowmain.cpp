@@ -1,0 +1,89 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 zelFLIGHTAB developers
+// The window module: Qt Widgets and Svg, loaded by zelflightab only to open
+// the window or to draw a picture of it.
+#include "app/options.h"
+#include "console/console.h"
+#include "platform/sharedplatform.h"
+#include "ui/menuwindow.h"
+#include "ui/qtinteraction.h"
+
+#include <QApplication>
+
+#include <fstream>
+#include <iostream>
+
+namespace {
+
+/// --zoom and --palette, when given.
+void applyLook(zel::MenuWindow& window, const zel::Options& options) {
+    if (options.zoom) {
+        window.setZoom(std::stod(*options.zoom) / 100);
+    }
+    if (options.palette) {
+        window.setNight(*options.palette == "night");
+    }
+}
+
+/// `--script FILE --screenshot OUT.png`: console commands against the real
+/// window, then a picture of it. Dialogs are printed as the console prints them.
+int runScript(zel::SharedPlatform& shared, const zel::Options& options) {
+    std::ifstream file(*options.script);
+    if (!file) {
+        std::cerr << "error: cannot read " << *options.script << '\n';
+        return 2;
+    }
+    zel::ConsoleInteraction interaction(std::cout);
+    zel::Platform platform = shared.with(interaction);
+    zel::Menu menu(platform);
+    // A picture shows the window as it starts, whatever the user's window did.
+    zel::MenuWindow window(menu, nullptr, {}, false);
+    applyLook(window, options);
+    zel::ConsoleSession session(menu, interaction, std::cout);
+    session.start();
+    std::string line;
+    for (int number = 1; !session.finished() && std::getline(file, line); ++number) {
+        if (const auto error = session.run(line)) {
+            std::cerr << "error: line " << number << ": " << *error << '\n';
+            return 2;
+        }
+    }
+    window.render();
+    // Quality 80 is zlib's fastest level: a third of the time of the default,
+    // for a file a little larger.
+    if (options.screenshot &&
+        !window.grab().save(QString::fromStdString(*options.screenshot), "PNG", 80)) {
+        std::cerr << "error: cannot write " << *options.screenshot << '\n';
+        return 2;
+    }
+    return 0;
+}
+
+int runWindow(zel::SharedPlatform& shared, const zel::Options& options) {
+    zel::QtInteraction interaction;
+    zel::Platform platform = shared.with(interaction);
+    zel::Menu menu(platform);
+    zel::MenuWindow window(menu, &interaction);
+    applyLook(window, options);
+    interaction.setParent(&window);
+    interaction.setFlash([&window] { window.flash(); });
+    window.show();
+    return QApplication::exec();
+}
+
+} // namespace
+
+extern "C" Q_DECL_EXPORT int zelflightab_window_main(int argc, char** argv) {
+    const zel::Options options = zel::parseOptions(std::vector<std::string>(argv + 1, argv + argc));
+    QApplication application(argc, argv);
+    QCoreApplication::setApplicationName(QStringLiteral("zelFLIGHTAB"));
+    QCoreApplication::setApplicationVersion(QString::fromStdString(zel::versionText()));
+    std::string error;
+    const auto shared =
+        zel::makeSharedPlatform({options.locale, options.symbols, options.folder}, error);
+    if (!shared) {
+        std::cerr << "error: " << error << '\n';
+        return 2;
+    }
+    return options.script ? runScript(*shared, options) : runWindow(*shared, options);
+}
