@@ -287,6 +287,21 @@ std::optional<std::string> ConsoleSession::run(const std::string& rawLine) {
         }
         return std::nullopt;
     }
+    if (command == "paste") {
+        // The clipboard's text, with \n and \r for its line breaks.
+        std::string text;
+        for (std::size_t at = 0; at < argument.size(); ++at) {
+            const std::string_view escape = argument.substr(at, 2);
+            if (escape == "\\n" || escape == "\\r") {
+                text += escape == "\\n" ? '\n' : '\r';
+                ++at;
+            } else {
+                text += argument[at];
+            }
+        }
+        m_menu.Form_Paste(text);
+        return std::nullopt;
+    }
     if (command == "key") {
         if (argument != "backspace") {
             return std::string("key takes backspace");

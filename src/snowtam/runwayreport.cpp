@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <array>
+#include <functional>
 #include <optional>
 #include <vector>
 
@@ -223,6 +224,45 @@ bool isStateCharacters(std::string_view text) {
     return std::all_of(text.begin(), text.end(), [](char c) { return isDigit(c) || c == '/'; });
 }
 
+/// A METAR runway-state group at `group` on the page: R, the runway, "/",
+/// then six figures, CLRD and the braking once contamination has ceased, or
+/// SNOCLO; also SNOCLO alone. False when the group is none of these.
+bool stateGroup(PageSheet& page, std::string_view group,
+                const std::function<void(const Rows&)>& show) {
+    const auto slash = group.find('/');
+    const std::string_view runway = group.starts_with('R') && slash != std::string_view::npos
+                                        ? group.substr(1, slash - 1)
+                                        : std::string_view("-");
+    const bool runwayShape = runway.empty() || isRunway(runway) || runway == "88" || runway == "99";
+    const std::string_view state =
+        runwayShape ? group.substr(slash + 1) : std::string_view(group == "SNOCLO" ? group : "");
+    Rows rows = stateRows();
+    rows[1].second = runway.empty() || runway == "88" || (!runwayShape && state == "SNOCLO")
+                         ? "All RWY"
+                     : runway == "99" ? "Previous Report"
+                                      : std::string(runway);
+    if (state == "SNOCLO") {
+        rows[2].second = "Closed by snow";
+        show(rows);
+        return true;
+    }
+    if (!runwayShape || runway.empty() || state.size() != 6) {
+        return false;
+    }
+    if (state.starts_with("CLRD") && isStateCharacters(state.substr(4))) {
+        show(rows);
+        page[2].caption = "Contamination cleared";
+        writeBraking(page, state.substr(4));
+    } else if (isStateCharacters(state)) {
+        show(rows);
+        writeStateGroup(page, state);
+    } else {
+        return false;
+    }
+    sizeCaptions(page);
+    return true;
+}
+
 } // namespace
 
 Report Convert_RunwayCondition(PageSheet& page, std::string_view text) {
@@ -234,58 +274,31 @@ Report Convert_RunwayCondition(PageSheet& page, std::string_view text) {
             page[row].caption = rows[static_cast<std::size_t>(row)].second;
         }
         sizeCaptions(page);
-        return Report{};
     };
+    // A GRF report first, with or without the time of its assessment before
+    // it: a SNOWTAM's heading holds date groups of eight figures too.
     for (std::size_t at = 0; at < groups.size(); ++at) {
-        const std::string_view group = groups[at];
-        // A GRF report, with or without the time of its assessment before it.
-        if (const auto time = assessed(group)) {
-            if (const auto rows = grfReport(groups, at + 1, *time)) {
-                return show(*rows);
-            }
+        const auto time = assessed(groups[at]);
+        if (const auto rows = time ? grfReport(groups, at + 1, *time) : std::nullopt) {
+            show(*rows);
+            return {};
         }
         if (const auto rows = grfReport(groups, at, "")) {
-            return show(*rows);
-        }
-        // The METAR group: R, the runway, "/", then six figures, CLRD and the
-        // braking once contamination has ceased, or SNOCLO.
-        const auto slash = group.find('/');
-        const std::string_view runway = group.starts_with('R') && slash != std::string_view::npos
-                                            ? group.substr(1, slash - 1)
-                                            : std::string_view("-");
-        const bool runwayShape =
-            runway.empty() || isRunway(runway) || runway == "88" || runway == "99";
-        const std::string_view state = runwayShape
-                                           ? group.substr(slash + 1)
-                                           : std::string_view(group == "SNOCLO" ? group : "");
-        Rows rows = stateRows();
-        rows[1].second = runway.empty() || runway == "88" || (!runwayShape && state == "SNOCLO")
-                             ? "All RWY"
-                         : runway == "99" ? "Previous Report"
-                                          : std::string(runway);
-        if (state == "SNOCLO") {
-            rows[2].second = "Closed by snow";
-            return show(rows);
-        }
-        if (runwayShape && !runway.empty() && state.size() == 6 && state.starts_with("CLRD") &&
-            isStateCharacters(state.substr(4))) {
-            show(rows);
-            page[2].caption = "Contamination cleared";
-            writeBraking(page, state.substr(4));
-            sizeCaptions(page);
+            show(*rows);
             return {};
         }
-        if (runwayShape && !runway.empty() && state.size() == 6 && isStateCharacters(state)) {
-            show(rows);
-            writeStateGroup(page, state);
-            sizeCaptions(page);
+    }
+    for (const std::string_view group : groups) {
+        if (stateGroup(page, group, show)) {
             return {};
         }
-        // The plain eight-figure group, read as the Snowtam page reads it; a
-        // coverage or depth of a report ("50/50/50") is not one.
-        const bool thirdsShape = thirds(group) && group[2] == '/' && group[5] == '/';
-        if (group.size() == 8 && isStateCharacters(group) && !thirdsShape) {
-            show(rows);
+    }
+    // The plain eight-figure group, read as the Snowtam page reads it; a
+    // coverage or depth of a report ("50/50/50") is not one.
+    for (const std::string_view group : groups) {
+        const bool eight = group.size() == 8 && isStateCharacters(group);
+        if (eight && !(thirds(group) && group[2] == '/' && group[5] == '/')) {
+            show(stateRows());
             return Convert_Snowtam(page, group);
         }
     }

@@ -175,7 +175,7 @@ struct Calculator : FakeMachine {
 
 /// What the window stores or shows that is not a finite number ("row 3 tag
 /// inf"), or nothing when all is well; a caption font other than 9 or 12 points
-/// counts too.
+/// counts too. The display of a page that takes a report shows what was typed.
 inline std::string nonFinite(const Menu& menu) {
     auto bad = [](std::string text) {
         for (char& c : text) {
@@ -184,8 +184,9 @@ inline std::string nonFinite(const Menu& menu) {
         return text.find("inf") != std::string::npos || text.find("nan") != std::string::npos;
     };
     const ScratchPad& pad = menu.scratchPad();
+    const bool report = menu.page() != nullptr && menu.page()->isText();
     if (!std::isfinite(pad.inputValue()) || !std::isfinite(pad.accumulator()) ||
-        !std::isfinite(pad.memory()) || bad(menu.display())) {
+        !std::isfinite(pad.memory()) || (!report && bad(menu.display()))) {
         return "the scratch pad";
     }
     for (int row = 1; row <= PageSheet::Rows; ++row) {

@@ -4,6 +4,9 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
+#include <map>
+
 namespace zel::test {
 namespace {
 
@@ -13,36 +16,24 @@ namespace {
 /// add, subtract, multiply and divide keys (a click, unlike a typed operator,
 /// does not first clear the entry).
 void press(Calculator& calc, std::string_view keys) {
+    const std::map<char, std::function<void(Menu&)>> clicks{
+        {'=', [](Menu& m) { m.Form_KeyUp(key::Enter); }},
+        {'C', [](Menu& m) { m.LabC_Click(); }},
+        {'M', [](Menu& m) { m.LabMEM_Click(0); }},
+        {'P', [](Menu& m) { m.LabMEM_Click(1); }},
+        {'N', [](Menu& m) { m.LabMEM_Click(2); }},
+        {'D', [](Menu& m) { m.LabOP_Click(5); }},
+        {'<', [](Menu& m) { m.Form_KeyPress(key::Backspace); }},
+        {'a', [](Menu& m) { m.LabOP_Click(1); }},
+        {'s', [](Menu& m) { m.LabOP_Click(2); }},
+        {'m', [](Menu& m) { m.LabOP_Click(3); }},
+        {'d', [](Menu& m) { m.LabOP_Click(4); }},
+    };
     for (char k : keys) {
-        switch (k) {
-        case '=':
-            calc.menu.Form_KeyUp(key::Enter);
-            break;
-        case 'C':
-            calc.menu.LabC_Click();
-            break;
-        case 'M':
-            calc.menu.LabMEM_Click(0);
-            break;
-        case 'P':
-            calc.menu.LabMEM_Click(1);
-            break;
-        case 'N':
-            calc.menu.LabMEM_Click(2);
-            break;
-        case 'D':
-            calc.menu.LabOP_Click(5);
-            break;
-        case '<':
-            calc.menu.Form_KeyPress(key::Backspace);
-            break;
-        case 'a':
-        case 's':
-        case 'm':
-        case 'd':
-            calc.menu.LabOP_Click(static_cast<int>(std::string_view("asmd").find(k)) + 1);
-            break;
-        default:
+        const auto click = clicks.find(k);
+        if (click != clicks.end()) {
+            click->second(calc.menu);
+        } else {
             calc.menu.Form_KeyPress(static_cast<unsigned char>(k));
         }
     }
