@@ -37,13 +37,8 @@ int main(int argc, char** argv) {
     }
     // HTTP, when a download starts, runs in this application's event loop.
     QCoreApplication application(argc, argv);
-    QCoreApplication::setApplicationName(QStringLiteral("zelFLIGHTAB"));
-    QCoreApplication::setApplicationVersion(QString::fromStdString(zel::versionText()));
-    std::string error;
-    const auto shared =
-        zel::makeSharedPlatform({options.locale, options.symbols, options.folder}, error);
+    const auto shared = zel::startPlatform(options);
     if (!shared) {
-        std::cerr << "error: " << error << '\n';
         return 2;
     }
     return options.console ? zel::runConsole(options, *shared) : zel::runConvert(options, *shared);

@@ -76,13 +76,8 @@ int runWindow(zel::SharedPlatform& shared, const zel::Options& options) {
 extern "C" Q_DECL_EXPORT int zelflightab_window_main(int argc, char** argv) {
     const zel::Options options = zel::parseOptions(std::vector<std::string>(argv + 1, argv + argc));
     QApplication application(argc, argv);
-    QCoreApplication::setApplicationName(QStringLiteral("zelFLIGHTAB"));
-    QCoreApplication::setApplicationVersion(QString::fromStdString(zel::versionText()));
-    std::string error;
-    const auto shared =
-        zel::makeSharedPlatform({options.locale, options.symbols, options.folder}, error);
+    const auto shared = zel::startPlatform(options);
     if (!shared) {
-        std::cerr << "error: " << error << '\n';
         return 2;
     }
     return options.script ? runScript(*shared, options) : runWindow(*shared, options);

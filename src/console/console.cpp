@@ -5,6 +5,8 @@
 #include "app/options.h"
 #include "platform/sharedplatform.h"
 
+#include <QCoreApplication>
+
 #include <charconv>
 #include <fstream>
 #include <iostream>
@@ -397,6 +399,17 @@ void ConsoleSession::showRow(const Menu& menu, int row, std::ostream& out) {
     const RowCell& cell = menu.row(row);
     out << "row " << row << ' ' << quoted(cell.unit) << ' ' << quoted(cell.caption) << ' '
         << cell.fontSize << ' ' << (cell.input ? "input" : "normal") << '\n';
+}
+
+std::unique_ptr<SharedPlatform> startPlatform(const Options& options) {
+    QCoreApplication::setApplicationName(QStringLiteral("zelFLIGHTAB"));
+    QCoreApplication::setApplicationVersion(QString::fromStdString(versionText()));
+    std::string error;
+    auto shared = makeSharedPlatform({options.locale, options.symbols, options.folder}, error);
+    if (!shared) {
+        std::cerr << "error: " << error << '\n';
+    }
+    return shared;
 }
 
 int runConsole(const Options& options, SharedPlatform& shared) {

@@ -6,6 +6,7 @@
 
 #include <deque>
 #include <iosfwd>
+#include <memory>
 #include <optional>
 #include <string>
 
@@ -75,6 +76,11 @@ std::optional<std::string> convertOnce(Menu& menu, std::string_view page, std::s
 
 struct SharedPlatform;
 struct Options;
+
+/// Names the application and makes the platform pieces the command line asks
+/// for; nothing, having said why on standard error, when it cannot. Needs the
+/// application object.
+std::unique_ptr<SharedPlatform> startPlatform(const Options& options);
 
 /// `zelflightab --console [FILE]`: runs the commands of FILE (or standard
 /// input); the process exit status.

@@ -17,16 +17,6 @@ constexpr double FeetPerNauticalMile = 6076.12;
 
 enum Quantity { Height, Distance, GroundSpeed, Minutes, VerticalSpeed, Gradient };
 
-/// a = b x c, solved for any one of the three.
-double product(int target, const std::array<double, 3>& v) {
-    return target == 0 ? v[1] * v[2] : v[0] / v[3 - target];
-}
-
-/// Vertical speed = gradient x ground speed / 60 (ft/min from ft/nm at kt).
-double verticalSpeed(int target, const std::array<double, 3>& v) {
-    return product(target, {v[0] * 60, v[1], v[2]}) / (target == 0 ? 60 : 1);
-}
-
 /// Minutes = 60 x distance / ground speed.
 double minutes(int target, const std::array<double, 3>& v) {
     const double t = v[0], d = v[1], gs = v[2];
@@ -57,7 +47,8 @@ std::optional<std::string_view> steep(const Quantities& q) {
 
 constexpr Relation Relations[] = {
     {{Height, Gradient, Distance}, product},
-    {{VerticalSpeed, Gradient, GroundSpeed}, verticalSpeed},
+    // Vertical speed = gradient x ground speed / 60 (ft/min from ft/nm at kt).
+    {{VerticalSpeed, Gradient, GroundSpeed}, productPerSixty},
     {{Minutes, Distance, GroundSpeed}, minutes},
     {{Height, VerticalSpeed, Minutes}, product},
 };

@@ -19,16 +19,6 @@ enum Quantity {
     Required
 };
 
-/// a = b x c, solved for any one of the three.
-double product(int target, const std::array<double, 3>& v) {
-    return target == 0 ? v[1] * v[2] : v[0] / v[3 - target];
-}
-
-/// Reserve fuel = flow x reserve minutes / 60.
-double reserve(int target, const std::array<double, 3>& v) {
-    return product(target, {v[0] * 60, v[1], v[2]}) / (target == 0 ? 60 : 1);
-}
-
 /// Required = trip fuel + reserve fuel.
 double sum(int target, const std::array<double, 3>& v) {
     return target == 0 ? v[1] + v[2] : v[0] - v[3 - target];
@@ -37,7 +27,7 @@ double sum(int target, const std::array<double, 3>& v) {
 constexpr Relation Relations[] = {
     {{Distance, GroundSpeed, Hours}, product},
     {{TripFuel, Flow, Hours}, product},
-    {{ReserveFuel, Flow, ReserveMinutes}, reserve},
+    {{ReserveFuel, Flow, ReserveMinutes}, productPerSixty}, // flow x minutes / 60
     {{Required, TripFuel, ReserveFuel}, sum},
 };
 

@@ -28,6 +28,14 @@ Quantities nothingKnown() {
 
 } // namespace
 
+double product(int target, const std::array<double, 3>& v) {
+    return target == 0 ? v[1] * v[2] : v[0] / v[static_cast<std::size_t>(3 - target)];
+}
+
+double productPerSixty(int target, const std::array<double, 3>& v) {
+    return product(target, {v[0] * 60, v[1], v[2]}) / (target == 0 ? 60 : 1);
+}
+
 void propagate(const Model& model, Quantities& q) {
     for (bool changed = true; changed;) {
         changed = false;

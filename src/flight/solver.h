@@ -45,6 +45,12 @@ struct Relation {
     double (*solve)(int target, const std::array<double, 3>& values) = nullptr;
 };
 
+/// a = b x c, solved for any one of the three.
+double product(int target, const std::array<double, 3>& values);
+/// a = b x c / 60, solved for any one of the three: a flow per hour over
+/// minutes, a gradient per nautical mile at knots in feet per minute.
+double productPerSixty(int target, const std::array<double, 3>& values);
+
 /// A value a quantity takes while nothing gives it, unless `unlessKnown` is.
 struct Default {
     int quantity = -1;
