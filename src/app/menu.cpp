@@ -78,9 +78,9 @@ void Menu::LabelMenu_Click() {
 
 void Menu::LoadUnits() {
     for (int row = 1; row <= PageSheet::Rows; ++row) {
-        const RowSpec& spec = m_table->row(row);
-        m_sheet.setFactor(row, spec.factor);
-        m_sheet[row].unit = std::string(spec.unit);
+        const RowSpec& shape = m_table->row(row);
+        m_sheet.setFactor(row, shape.factor);
+        m_sheet[row].unit = std::string(shape.unit);
     }
     if (m_table->rateStore) {
         m_sheet[PageSheet::Rows].unit = m_currency.ownCurrencyCaption();

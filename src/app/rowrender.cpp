@@ -11,9 +11,9 @@ void Menu::DisplayTags() {
     auto number = [&](double value) { return formatNumber(value, pattern, m_symbols); };
     // Whether a row has something to show, and what.
     auto shown = [&](int row, double& v) {
-        const RowSpec& spec = m_table->row(row);
+        const RowSpec& shape = m_table->row(row);
         v = m_sheet.value(row);
-        if (spec.has(UnknownEmpty) && v == -999) {
+        if (shape.has(UnknownEmpty) && v == -999) {
             return false;
         }
         return m_table->zeroIsValue ? m_sheet.holds(row) : v != 0;
