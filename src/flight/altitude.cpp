@@ -31,17 +31,15 @@ double pressureRatio(double pa) {
 
 /// Altitude, QNH and pressure altitude: the station pressure is
 /// QNH x (1 - A / H0)^n, and the pressure altitude is where the standard
-/// atmosphere has that pressure.
+/// atmosphere has that pressure. The QNH is never worked out from the two
+/// altitudes: only the newer of them counts.
 double altimeter(int target, const std::array<double, 3>& v) {
     const double a = v[0], qnh = v[1], pa = v[2];
-    switch (target) {
-    case 0:
-        return H0 * (1 - std::pow(P0 * pressureRatio(pa) / qnh, 1 / N));
-    case 1:
-        return P0 * pressureRatio(pa) / std::pow(1 - a / H0, N);
-    default:
-        return H0 * (1 - std::pow(qnh * std::pow(1 - a / H0, N) / P0, 1 / N));
+    if (target == 1) {
+        return std::numeric_limits<double>::quiet_NaN();
     }
+    return target == 0 ? H0 * (1 - std::pow(P0 * pressureRatio(pa) / qnh, 1 / N))
+                       : H0 * (1 - std::pow(qnh * std::pow(1 - a / H0, N) / P0, 1 / N));
 }
 
 /// 1.98 °C colder per 1000 ft: 15 - 0.0019812 x PA.

@@ -55,6 +55,11 @@ struct RowSpec {
     bool has(RowFlag flag) const { return (flags & flag) != 0; }
 };
 
+/// A row that is not converted by factor, drawn in `form`.
+constexpr RowSpec row(std::string_view unit, Form form, unsigned flags = 0) {
+    return {unit, 0, form, flags};
+}
+
 /// How many row units make one base unit: f for f > 0, 1/|f| for f < 0, 1 for 0.
 double multiplier(double factor);
 

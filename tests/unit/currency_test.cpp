@@ -27,6 +27,7 @@ TEST(Profile, ReadsOneKeyTheWayWindowsDoes) {
         {"a comment is no key", "[Rates]\n;EUR=2\nEUR=1\n", "Rates", "EUR", "1"},
         {"the first section of a name counts", "[A]\nk=1\n[A]\nk=2\n", "A", "k", "1"},
         {"a byte-order mark is skipped", "\xEF\xBB\xBF[A]\nk=1", "A", "k", "1"},
+        {"an unassigned ANSI byte reads as a question mark", "[A]\nk=x\x81y", "A", "k", "x?y"},
         {"an overlong sequence is no UTF-8", "[A]\nk=\xE0\x80\x80", "A", "k",
          "\xC3\xA0\xE2\x82\xAC\xE2\x82\xAC"},
         {"an ANSI file is read as code page 1252",

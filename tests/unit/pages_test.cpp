@@ -186,6 +186,7 @@ TEST(WindPage, SolvesTheTriangleAndShowsSidesAndComponents) {
          "2=100 | 1=78.46304"},
         {"the wind from heading, TAS, course and ground speed", Wind, "90@1 100@2 100@3 110@4",
          "5=336.4411 | 6=20.83817 | 7=9.999998"},
+        {"a tailwind along the course: no drift", Wind, "90@3 100@2 270@5 20@6", "1=90 | 4=120"},
         {"unknown results show empty", Wind, "90@1", "7=-999 | 7: | 8:"},
         {"a wind stronger than the TAS across the course", Wind, "90@3 20@2 360@5 50@6",
          "1=0 | 4=0"},

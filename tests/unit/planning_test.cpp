@@ -28,6 +28,7 @@ TEST(AltitudePage, GivesPressureAndDensityAltitude) {
         {"a negative altitude is a value", Altitude, "-500@1", "4:-500.00"},
         {"above 36000 ft", Altitude, "40000@1",
          "!exclamation Altitude: Invalid altitude (range -2000 - 36000 ft)"},
+        {"QNH 850 hPa is the lowest", Altitude, "850@2", "2:850.00 | 3:25.10"},
         {"QNH 849 hPa", Altitude, "849@2",
          "!exclamation Altitude: Invalid QNH (range 850 - 1100 hPa)"},
         {"QNH 0 inHg", Altitude, "0@3",
@@ -54,6 +55,8 @@ TEST(DescentPage, RelatesHeightDistanceSpeedAndPath) {
          "28000@1 90@2 450@3 2000@5", "1:24,000.00 | 2:90.00 | 4:12.00"},
         {"the height typed again wins over the distance", Descent,
          "28000@1 90@2 450@3 2000@5 24000@1", "2:90.00 | 5:2,000.00"},
+        {"time and ground speed give the distance", Descent, "12@4 450@3", "2:90.00"},
+        {"distance and time give the ground speed", Descent, "90@2 12@4", "3:450.00"},
         {"zero is no height", Descent, "0@1", "1: | !beep"},
         {"nor is a negative distance", Descent, "-5@2", "!beep"},
     };
