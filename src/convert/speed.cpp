@@ -42,7 +42,7 @@ Report Convert_Speed(PageSheet& page, double x, int& inputRow) {
     if (inputRow == ForceRow && !(x >= 1 && x <= 12)) {
         return Report::warning("Invalid input (range 1 to 12)");
     }
-    if (inputRow == DescriptionRow || (inputRow < ForceRow && x < 0)) {
+    if (inputRow == DescriptionRow || x < 0) { // a force was checked above
         return Report::beep();
     }
     if (inputRow == ForceRow) {

@@ -3,6 +3,8 @@
 #include "flight/planning.h"
 #include "flight/solver.h"
 
+#include <limits>
+
 namespace zel {
 namespace {
 
@@ -19,9 +21,10 @@ enum Quantity {
     Required
 };
 
-/// Required = trip fuel + reserve fuel.
+/// Required = trip fuel + reserve fuel. The fuel required is only ever a
+/// result (typing it beeps), so the sum is never solved backwards.
 double sum(int target, const std::array<double, 3>& v) {
-    return target == 0 ? v[1] + v[2] : v[0] - v[3 - target];
+    return target == 0 ? v[1] + v[2] : std::numeric_limits<double>::quiet_NaN();
 }
 
 constexpr Relation Relations[] = {

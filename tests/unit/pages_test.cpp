@@ -14,6 +14,8 @@ TEST(FactorPages, ConvertThroughTheBaseUnit) {
     const Scenario cases[] = {
         {"1 kg is 2.205 lbs", Weight, "1@1", "2=2.205 | 3=0.001"},
         {"1 imperial gallon", Fluid, "1@3", "1=4.54609 | 2=0.00454609 | 3=1"},
+        {"a barrel of oil is 42 US gallons, of 4 quarts or 128 ounces each", Fluid, "42@4",
+         "8:1.00 | 6:168.00 | 7:5,376.00 | 1:158.99"},
         {"1 kt is 1.851999692 km/h", Speed, "1@2", "1=1.851999692"},
         {"1 statute mile", Distance, "1@4", "3=1.609343871"},
         {"1 hPa is 1 mb", Pressure, "1@3", "4=1"},
@@ -295,6 +297,7 @@ TEST(RunwayCondition, DecodesTodaysReports) {
         {"METAR EDDF 241220Z R07C/CLRD70 R25/SNOCLO",
          "1:07C | 2:Contamination cleared | 4: | 7:0.70 | 8:Good"},
         {"R25R/SNOCLO", "1:25R | 2:Closed by snow"},
+        {"X24/290140", "!exclamation RWY Condition: Not a runway condition report"},
         {"R/SNOCLO", "1:All RWY | 2:Closed by snow"},
         {"SNOCLO", "1:All RWY | 2:Closed by snow"},
         {"88290140", "1:All RWY | 2:Wet / Water Patches | 7:0.40"},
