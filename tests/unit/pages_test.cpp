@@ -207,6 +207,7 @@ TEST(TrackTime, RelatesDistanceTimeAndSpeedWithTheWind) {
         {"100 km in nautical miles", TrackTime, "100@1", "2=53.995689325417"},
         {"120 nm at 240 kt take half an hour", TrackTime, "120@2 240@4", "3:0:30"},
         {"with distance and speed the time is recomputed", TrackTime, "120@2 240@4 1@3", "3=0.5"},
+        {"300 nm in 1.5 h is 200 kt", TrackTime, "300@2 1.5@3", "4=200"},
         {"200 kt for 1.5 h", TrackTime, "200@4 1.5@3", "2=300 | 1=555.5999076 | 3:1:30"},
         {"ground speed from the wind", TrackTime, "98@2 90@5 100@6 360@7 20@8",
          "4=97.97959 | 3:1:00"},
@@ -226,6 +227,9 @@ TEST(WindComp, SplitsTheWindAlongAndAcrossTheRunway) {
         {"400 is no runway", WindComp, "400@3",
          "3=0 | !exclamation Wind Comp: Invalid direction (range 1 - 360°)"},
         {"the components are results", WindComp, "5@6", "6=-999 | !beep"},
+        {"361 is no wind direction", WindComp, "361@1",
+         "1=0 | !exclamation Wind Comp: Invalid direction (range 1 - 360°)"},
+        {"but 400 kt is a wind velocity", WindComp, "400@2", "2=400"},
     };
     check(cases);
 }

@@ -21,6 +21,7 @@ TEST(AltitudePage, GivesPressureAndDensityAltitude) {
          "2:1,013.21 | 1:4,998.88"},
         {"the newest of altitude and pressure altitude counts", Altitude, "5000@1 6000@4",
          "1:6,000.00"},
+        {"so does the newest QNH, in either unit", Altitude, "1003@2 29.50@3", "2:998.98"},
         {"about 120 ft of density altitude per °C above standard", Altitude, "5000@4 10@6",
          "5:15.09 | 7:6,160.36"},
         {"without a temperature rows 5 to 7 stay empty", Altitude, "5000@1",
