@@ -34,12 +34,10 @@ double humidity(int target, const std::array<double, 3>& v) {
                        : std::numeric_limits<double>::quiet_NaN();
 }
 
-/// Base above sea level = elevation + base above ground.
+/// Base above sea level = elevation + base above ground; only ever a result.
 double amsl(int target, const std::array<double, 3>& v) {
-    const double base = v[0], elevation = v[1], s = v[2] * FeetPerDegreeOfSpread;
-    return target == 0   ? elevation + s
-           : target == 1 ? base - s
-                         : (base - elevation) / FeetPerDegreeOfSpread;
+    return target == 0 ? v[1] + v[2] * FeetPerDegreeOfSpread
+                       : std::numeric_limits<double>::quiet_NaN();
 }
 
 double toFeet(double spread) {
