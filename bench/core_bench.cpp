@@ -17,8 +17,7 @@ class Silent : public zel::Interaction,
   public:
     void beep() override {}
     void message(zel::MessageIcon, std::string_view, std::string_view) override {}
-    bool question(std::string_view, std::string_view) override { return false; }
-    std::optional<std::string> input(std::string_view, std::string_view) override { return {}; }
+    void ask(const zel::Request&, zel::Then<const zel::Answer&> then) override { then({}); }
     void setBusy(bool) override {}
     void quit() override {}
     zel::Symbols symbols() override { return {".", ","}; }
@@ -28,7 +27,7 @@ class Silent : public zel::Interaction,
     void remove(const std::string&) override {}
     bool update(const std::string&, const Change&) override { return false; }
     bool connected(std::string&) override { return false; }
-    zel::HttpReply get(const std::string&) override { return {}; }
+    void get(const std::string&, zel::Then<zel::HttpReply> then) override { then({}); }
     std::chrono::year_month_day today() override {
         return std::chrono::year{2026} / std::chrono::November / 22;
     }

@@ -43,7 +43,9 @@ int runScript(zel::SharedPlatform& shared, const zel::Options& options) {
     session.start();
     std::string line;
     for (int number = 1; !session.finished() && std::getline(file, line); ++number) {
-        if (const auto error = session.run(line)) {
+        const auto error = session.run(line);
+        zel::waitForTransfers(menu);
+        if (error) {
             std::cerr << "error: line " << number << ": " << *error << '\n';
             return 2;
         }
@@ -60,12 +62,22 @@ int runScript(zel::SharedPlatform& shared, const zel::Options& options) {
 }
 
 int runWindow(zel::SharedPlatform& shared, const zel::Options& options) {
+    // Answers and transfers end later, as events of the window.
+    zel::MenuWindow* target = nullptr;
+    const zel::Dispatch dispatch = [&target](const std::function<void()>& handler) {
+        if (target != nullptr) {
+            target->dispatch(handler);
+        }
+    };
     zel::QtInteraction interaction;
-    zel::Platform platform = shared.with(interaction);
+    zel::DispatchedNetwork network(shared.network, dispatch);
+    zel::Platform platform{interaction, shared.regional, shared.storage, network, shared.clock};
     zel::Menu menu(platform);
     zel::MenuWindow window(menu, &interaction);
+    target = &window;
     applyLook(window, options);
     interaction.setParent(&window);
+    interaction.setDispatch(dispatch);
     interaction.setFlash([&window] { window.flash(); });
     window.show();
     return QApplication::exec();

@@ -84,10 +84,11 @@ void Menu::LoadUnits() {
     }
     if (m_table->rateStore) {
         m_sheet[PageSheet::Rows].unit = m_currency.ownCurrencyCaption();
-        const std::array<float, PageSheet::Rows> rates = m_currency.LoadRates(m_symbols);
-        for (int row = 1; row <= PageSheet::Rows; ++row) {
-            m_sheet.setFactor(row, rates[static_cast<std::size_t>(row - 1)]);
-        }
+        m_currency.LoadRates(m_symbols, [this](const ModCurrency::Rates& rates) {
+            for (int row = 1; row <= PageSheet::Rows; ++row) {
+                m_sheet.setFactor(row, rates[static_cast<std::size_t>(row - 1)]);
+            }
+        });
     }
 }
 
@@ -214,9 +215,11 @@ void Menu::LabMEM_Click(int index) {
             m_currency.DownloadRates();
         } else if (index == 1) {
             LabC_Click();
-            if (m_currency.SetMyCurrency()) {
-                LoadUnits();
-            }
+            m_currency.SetMyCurrency([this](bool changed) {
+                if (changed) {
+                    LoadUnits();
+                }
+            });
         } else {
             m_platform.ui.message(MessageIcon::Information, m_title, m_currency.sourceNote());
         }

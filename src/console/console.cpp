@@ -6,6 +6,7 @@
 #include "platform/sharedplatform.h"
 
 #include <QCoreApplication>
+#include <QEventLoop>
 
 #include <charconv>
 #include <fstream>
@@ -196,33 +197,34 @@ void ConsoleInteraction::message(MessageIcon icon, std::string_view title, std::
     m_out << "message " << iconName(icon) << ' ' << quoted(title) << ' ' << quoted(text) << '\n';
 }
 
-std::optional<ConsoleInteraction::Answer> ConsoleInteraction::nextAnswer() {
+std::optional<ConsoleInteraction::Scripted> ConsoleInteraction::nextAnswer() {
     if (m_answers.empty()) {
         return std::nullopt;
     }
-    Answer answer = std::move(m_answers.front());
+    Scripted answer = std::move(m_answers.front());
     m_answers.pop_front();
     return answer;
 }
 
-bool ConsoleInteraction::question(std::string_view title, std::string_view text) {
-    const auto answer = nextAnswer();
-    const bool yes = answer && answer->kind == Answer::Kind::Yes;
-    m_out << "question " << quoted(title) << ' ' << quoted(text) << " -> " << (yes ? "yes" : "no")
-          << '\n';
-    return yes;
-}
-
-std::optional<std::string> ConsoleInteraction::input(std::string_view title,
-                                                     std::string_view prompt) {
-    const auto answer = nextAnswer();
-    m_out << "input " << quoted(title) << ' ' << quoted(prompt) << " -> ";
-    if (answer && answer->kind == Answer::Kind::Text) {
-        m_out << quoted(answer->text) << '\n';
-        return answer->text;
+void ConsoleInteraction::ask(const Request& request, Then<const Answer&> then) {
+    // The script's answers were queued before the command that asks, so the
+    // answer is at hand: it is given at once, in the order the boxes open.
+    const auto queued = nextAnswer();
+    Answer answer;
+    if (request.kind == Request::Kind::Question) {
+        answer.yes = queued && queued->kind == Scripted::Kind::Yes;
+        m_out << "question " << quoted(request.title) << ' ' << quoted(request.text) << " -> "
+              << (answer.yes ? "yes" : "no") << '\n';
+    } else {
+        m_out << "input " << quoted(request.title) << ' ' << quoted(request.text) << " -> ";
+        if (queued && queued->kind == Scripted::Kind::Text) {
+            m_out << quoted(queued->text) << '\n';
+            answer.text = queued->text;
+        } else {
+            m_out << "cancel\n";
+        }
     }
-    m_out << "cancel\n";
-    return std::nullopt;
+    then(answer);
 }
 
 void ConsoleInteraction::setBusy(bool busy) {
@@ -320,7 +322,7 @@ std::optional<std::string> ConsoleSession::run(const std::string& rawLine) {
         return std::nullopt;
     }
     if (command == "answer") {
-        using Kind = ConsoleInteraction::Answer::Kind;
+        using Kind = ConsoleInteraction::Scripted::Kind;
         if (argument == "yes" || argument == "no" || argument == "cancel") {
             const Kind kind = argument == "yes"  ? Kind::Yes
                               : argument == "no" ? Kind::No
@@ -412,6 +414,12 @@ std::unique_ptr<SharedPlatform> startPlatform(const Options& options) {
     return shared;
 }
 
+void waitForTransfers(const Menu& menu) {
+    while (menu.busy()) {
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    }
+}
+
 int runConsole(const Options& options, SharedPlatform& shared) {
     std::ifstream file;
     if (options.file) {
@@ -429,7 +437,9 @@ int runConsole(const Options& options, SharedPlatform& shared) {
     session.start();
     std::string line;
     for (int number = 1; !session.finished() && std::getline(in, line); ++number) {
-        if (const auto error = session.run(line)) {
+        const auto error = session.run(line);
+        waitForTransfers(menu);
+        if (error) {
             std::cout.flush();
             std::cerr << "error: line " << number << ": " << *error << '\n';
             return 2;
@@ -443,8 +453,10 @@ int runConvert(const Options& options, SharedPlatform& shared) {
     Platform platform = shared.with(interaction);
     Menu menu(platform);
     ConsoleSession(menu, interaction, std::cout).start();
-    if (const auto error = convertOnce(menu, options.convert.at(0), options.convert.at(1),
-                                       options.convert.at(2))) {
+    const auto error =
+        convertOnce(menu, options.convert.at(0), options.convert.at(1), options.convert.at(2));
+    waitForTransfers(menu);
+    if (error) {
         std::cout.flush();
         std::cerr << "error: " << *error << '\n';
         return 2;

@@ -21,23 +21,23 @@ class ConsoleInteraction : public Interaction {
 
     void beep() override;
     void message(MessageIcon icon, std::string_view title, std::string_view text) override;
-    bool question(std::string_view title, std::string_view text) override;
-    std::optional<std::string> input(std::string_view title, std::string_view prompt) override;
+    void ask(const Request& request, Then<const Answer&> then) override;
     void setBusy(bool busy) override;
     void quit() override;
 
-    struct Answer {
+    /// An answer written in the script ("answer yes", "answer text MXN").
+    struct Scripted {
         enum class Kind { Yes, No, Cancel, Text } kind;
         std::string text;
     };
-    void queue(Answer answer) { m_answers.push_back(std::move(answer)); }
+    void queue(Scripted answer) { m_answers.push_back(std::move(answer)); }
     bool quitting() const { return m_quit; }
 
   private:
-    std::optional<Answer> nextAnswer();
+    std::optional<Scripted> nextAnswer();
 
     std::ostream& m_out;
-    std::deque<Answer> m_answers;
+    std::deque<Scripted> m_answers;
     bool m_quit = false;
 };
 
@@ -81,6 +81,10 @@ struct Options;
 /// for; nothing, having said why on standard error, when it cannot. Needs the
 /// application object.
 std::unique_ptr<SharedPlatform> startPlatform(const Options& options);
+
+/// Waits until the transfers that Menu started have ended: a script goes on
+/// when their replies, which come through the application's event loop, are in.
+void waitForTransfers(const Menu& menu);
 
 /// `zelflightab --console [FILE]`: runs the commands of FILE (or standard
 /// input); the process exit status.

@@ -6,40 +6,17 @@
 #include "currency/ratepages.h"
 
 #include <limits>
+#include <utility>
 #include <vector>
 
 namespace zel {
 namespace {
 
 constexpr std::string_view AppTitle = "zelFLIGHTAB";
-constexpr std::string_view Rates = "Rates";
+constexpr std::string_view RatesSection = "Rates";
 constexpr std::string_view DefaultConverterUrl = "https://www.google.com/finance/converter";
 constexpr std::string_view DefaultEcbUrl =
     "https://www.ecb.europa.eu/stats/eurofxref/eurofxref-daily.xml";
-
-/// Sets a flag for as long as it lives.
-class Raised {
-  public:
-    explicit Raised(bool& flag) : m_flag(flag) { m_flag = true; }
-    ~Raised() { m_flag = false; }
-    Raised(const Raised&) = delete;
-    Raised& operator=(const Raised&) = delete;
-
-  private:
-    bool& m_flag;
-};
-
-/// The hourglass, put back whatever way the download ends.
-class BusyPointer {
-  public:
-    explicit BusyPointer(Interaction& ui) : m_ui(ui) { m_ui.setBusy(true); }
-    ~BusyPointer() { m_ui.setBusy(false); }
-    BusyPointer(const BusyPointer&) = delete;
-    BusyPointer& operator=(const BusyPointer&) = delete;
-
-  private:
-    Interaction& m_ui;
-};
 
 std::string upperCase(std::string_view text) {
     std::string out(text);
@@ -116,20 +93,25 @@ std::string ModCurrency::today() {
     return std::to_string(daySerial(m_platform.clock.today()));
 }
 
-std::array<float, 8> ModCurrency::LoadRates(const Symbols& symbols) {
-    m_myCurrCode = ReadIni(Rates, "myCurrCode");
+void ModCurrency::LoadRates(const Symbols& symbols, Then<const Rates&> then) {
+    m_myCurrCode = ReadIni(RatesSection, "myCurrCode");
     if (charCount(m_myCurrCode) != 3) {
         m_myCurrCode = NoCurrency;
     }
     // A rate list 7 days old is kept; from the 8th day on the user is asked.
-    if (ToNumber(today(), symbols) - ToNumber(ReadIni(Rates, "Date"), symbols) > 7) {
-        DownloadRates();
+    if (ToNumber(today(), symbols) - ToNumber(ReadIni(RatesSection, "Date"), symbols) > 7) {
+        DownloadRates([this, symbols, then = std::move(then)](bool) { then(readRates(symbols)); });
+        return;
     }
-    std::array<float, 8> rates{};
+    then(readRates(symbols));
+}
+
+ModCurrency::Rates ModCurrency::readRates(const Symbols& symbols) {
+    Rates rates{};
     for (std::size_t row = 0; row < rates.size(); ++row) {
         const std::string code = row < RowCodes.size() ? std::string(RowCodes[row]) : m_myCurrCode;
         std::string text;
-        for (char c : ReadIni(Rates, code)) {
+        for (char c : ReadIni(RatesSection, code)) {
             // Rates are stored with "." whatever the machine's decimal symbol.
             text += c == '.' ? symbols.decimal : std::string(1, c);
         }
@@ -144,33 +126,45 @@ std::array<float, 8> ModCurrency::LoadRates(const Symbols& symbols) {
 }
 
 std::string ModCurrency::ownCurrencyCaption() {
-    const std::string code = ReadIni(Rates, "myCurrCode");
+    const std::string code = ReadIni(RatesSection, "myCurrCode");
     if (isNoCurrency(code)) {
         return {}; // no row 8 until a currency is named
     }
-    return ReadIni(Rates, "myCurrName") + " - " + code;
+    return ReadIni(RatesSection, "myCurrName") + " - " + code;
 }
 
-bool ModCurrency::SetMyCurrency() {
-    Interaction& ui = m_platform.ui;
-    const auto name =
-        ui.input("myCurrency", "Enter the long name for my currency : \r\re.g. Mexican Peso");
-    if (!name || name->empty()) {
-        return false;
-    }
-    WriteIni(Rates, "myCurrName", *name);
-    const auto code = ui.input(
-        "myCurrency", "Enter the official 3-character code for my currency : \r\re.g. MXN");
-    if (!code || charCount(*code) != 3) {
-        reportUnsaved();
-        ui.message(MessageIcon::Critical, "myCurrency", "Invalid Currency");
-        return false;
-    }
-    m_myCurrCode = upperCase(*code);
-    WriteIni(Rates, "myCurrCode", m_myCurrCode);
-    reportUnsaved();
-    DownloadRates();
-    return true;
+void ModCurrency::SetMyCurrency(Then<bool> then) {
+    m_step = Step::Naming;
+    m_platform.ui.ask({Request::Kind::Input, "myCurrency",
+                       "Enter the long name for my currency : \r\re.g. Mexican Peso"},
+                      [this, then = std::move(then)](const Answer& name) {
+                          if (!name.text || name.text->empty()) {
+                              m_step = Step::Idle;
+                              then(false);
+                              return;
+                          }
+                          WriteIni(RatesSection, "myCurrName", *name.text);
+                          nameCode(then);
+                      });
+}
+
+void ModCurrency::nameCode(Then<bool> then) {
+    m_platform.ui.ask({Request::Kind::Input, "myCurrency",
+                       "Enter the official 3-character code for my currency : \r\re.g. MXN"},
+                      [this, then = std::move(then)](const Answer& code) {
+                          m_step = Step::Idle;
+                          if (!code.text || charCount(*code.text) != 3) {
+                              reportUnsaved();
+                              m_platform.ui.message(MessageIcon::Critical, "myCurrency",
+                                                    "Invalid Currency");
+                              then(false);
+                              return;
+                          }
+                          m_myCurrCode = upperCase(*code.text);
+                          WriteIni(RatesSection, "myCurrCode", m_myCurrCode);
+                          reportUnsaved();
+                          DownloadRates([then](bool) { then(true); });
+                      });
 }
 
 bool ModCurrency::IsConnected(std::string& connectionType) {
@@ -183,21 +177,22 @@ bool ModCurrency::IsConnected(std::string& connectionType) {
     return false;
 }
 
-bool ModCurrency::DownloadFile(const std::string& url, const std::string& fileName) {
+void ModCurrency::DownloadFile(const std::string& url, const std::string& fileName,
+                               Then<bool> then) {
     m_platform.storage.remove(fileName);
-    HttpReply reply = m_platform.network.get(url);
-    if (reply.ok && !m_platform.storage.write(fileName, reply.body)) {
-        reply = {false, 75, "Path/File access error (" + fileName + ")", {}};
-    }
-    if (!reply.ok) {
-        m_platform.ui.message(
-            MessageIcon::Critical, "Error",
-            "The following error occurred while attempting download from internet :\r\rError " +
-                std::to_string(reply.error) + ": " + reply.errorText +
-                " at line: 0\r\rURL :  " + url);
-        return false;
-    }
-    return true;
+    m_platform.network.get(url, [this, url, fileName, then = std::move(then)](HttpReply reply) {
+        if (reply.ok && !m_platform.storage.write(fileName, reply.body)) {
+            reply = {false, 75, "Path/File access error (" + fileName + ")", {}};
+        }
+        if (!reply.ok) {
+            m_platform.ui.message(
+                MessageIcon::Critical, "Error",
+                "The following error occurred while attempting download from internet :\r\rError " +
+                    std::to_string(reply.error) + ": " + reply.errorText +
+                    " at line: 0\r\rURL :  " + url);
+        }
+        then(reply.ok);
+    });
 }
 
 ModCurrency::Source ModCurrency::source() {
@@ -206,7 +201,7 @@ ModCurrency::Source ModCurrency::source() {
 }
 
 std::string ModCurrency::ratesNote() {
-    const double day = ToNumber(ReadIni(Rates, "Date"), {});
+    const double day = ToNumber(ReadIni(RatesSection, "Date"), {});
     if (!(day > 0 && day < 2958466)) { // a day up to 31 December 9999
         return "No rates stored yet";
     }
@@ -226,50 +221,83 @@ void ModCurrency::cannotRead(std::string_view code) {
                           "Cannot read the currency rate for " + std::string(code));
 }
 
-void ModCurrency::DownloadRates() {
-    if (m_downloading) {
+void ModCurrency::DownloadRates(Then<bool> then) {
+    if (m_step == Step::Offering || m_step == Step::Downloading) {
         return; // one download at a time
     }
-    const Raised running(m_downloading);
+    auto ended = [then = std::move(then)](bool done) {
+        if (then) {
+            then(done);
+        }
+    };
     std::string connectionType;
-    if (!IsConnected(connectionType) ||
-        !m_platform.ui.question("Currency", "Download recent currency rates ?")) {
+    if (!IsConnected(connectionType)) {
+        ended(false);
         return;
     }
-    bool done = false;
-    {
-        const BusyPointer busy(m_platform.ui);
-        // Euro is the base and is never fetched.
-        const std::array<std::string, 7> codes{"AUD", "CAD", "INR",       "JPY",
-                                               "GBP", "USD", m_myCurrCode};
-        done = source() == Source::Converter ? fetchConverterRates(codes) : fetchEcbRates(codes);
-        if (done) {
-            WriteIni(Rates, "Date", today());
-        }
+    m_step = Step::Offering;
+    m_downloaded = ended;
+    m_platform.ui.ask({Request::Kind::Question, "Currency", "Download recent currency rates ?"},
+                      [this](const Answer& answer) {
+                          if (!answer.yes) {
+                              m_step = Step::Idle;
+                              std::exchange(m_downloaded, {})(false);
+                              return;
+                          }
+                          m_step = Step::Downloading;
+                          m_platform.ui.setBusy(true);
+                          // Euro is the base and is never fetched.
+                          const Codes codes{"AUD", "CAD", "INR", "JPY", "GBP", "USD", m_myCurrCode};
+                          auto finish = [this](bool done) { finishDownload(done); };
+                          if (source() == Source::Converter) {
+                              fetchConverterRates(
+                                  codes, 0, std::make_shared<std::vector<std::string>>(), finish);
+                          } else {
+                              fetchEcbRates(codes, finish);
+                          }
+                      });
+}
+
+void ModCurrency::finishDownload(bool done) {
+    if (done) {
+        WriteIni(RatesSection, "Date", today());
     }
+    m_platform.ui.setBusy(false);
     reportUnsaved();
     if (done) {
         m_platform.ui.beep();
     }
+    m_step = Step::Idle;
+    std::exchange(m_downloaded, {})(done);
 }
 
-bool ModCurrency::fetchConverterRates(const std::array<std::string, 7>& codes) {
+void ModCurrency::fetchConverterRates(const Codes& codes, std::size_t next,
+                                      std::shared_ptr<std::vector<std::string>> fetched,
+                                      Then<bool> then) {
+    if (next == codes.size()) {
+        // Every transfer has ended; those that failed have said so.
+        then(storeConverterRates(codes, *fetched));
+        return;
+    }
     std::string base = ReadIni("Download", "ConverterUrl");
     if (base.empty()) {
         base = DefaultConverterUrl;
     }
-    auto keptPage = [&](const std::string& code) {
-        return techFile("rate_" + fileSafe(code) + ".htm");
-    };
+    const std::string& code = codes[next];
+    DownloadFile(base + "?a=1&from=EUR&to=" + percentEncode(code),
+                 techFile("rate_" + fileSafe(code) + ".htm"),
+                 [this, codes, next, fetched, then = std::move(then)](bool ok) {
+                     if (ok) {
+                         fetched->push_back(codes[next]);
+                     }
+                     fetchConverterRates(codes, next + 1, fetched, then);
+                 });
+}
+
+bool ModCurrency::storeConverterRates(const Codes& codes, const std::vector<std::string>& fetched) {
     // A transfer that failed has said so; its page is not read.
-    std::vector<std::string> fetched;
-    for (const std::string& code : codes) {
-        if (DownloadFile(base + "?a=1&from=EUR&to=" + percentEncode(code), keptPage(code))) {
-            fetched.push_back(code);
-        }
-    }
     for (const std::string& code : fetched) {
-        const FileRead page = m_platform.storage.read(keptPage(code));
+        const FileRead page = m_platform.storage.read(techFile("rate_" + fileSafe(code) + ".htm"));
         const auto rate =
             page.status == FileRead::Status::Ok ? cutConverterRate(page.bytes) : std::nullopt;
         if (!rate) {
@@ -281,40 +309,44 @@ bool ModCurrency::fetchConverterRates(const std::array<std::string, 7>& codes) {
                                   "Cannot find currency rate for " + code);
         }
         // Stored as the page gives it, result or not: a text that is no number reads as 0.
-        WriteIni(Rates, code, *rate);
+        WriteIni(RatesSection, code, *rate);
     }
     return fetched.size() == codes.size(); // the date says every rate was renewed
 }
 
-bool ModCurrency::fetchEcbRates(const std::array<std::string, 7>& codes) {
+void ModCurrency::fetchEcbRates(const Codes& codes, Then<bool> then) {
     std::string url = ReadIni("Download", "EcbUrl");
     if (url.empty()) {
         url = DefaultEcbUrl;
     }
     const std::string kept = techFile("rate_ECB.xml");
-    if (!DownloadFile(url, kept)) {
-        return false; // it said why; there is nothing to read
-    }
-    const FileRead feed = m_platform.storage.read(kept);
-    const auto rates =
-        feed.status == FileRead::Status::Ok ? parseEcbFeed(feed.bytes) : std::nullopt;
-    if (!rates) {
-        cannotRead(codes.front());
-        return false;
-    }
-    for (const std::string& code : codes) {
-        if (code == NoCurrency) {
-            continue;
+    DownloadFile(url, kept, [this, codes, kept, then = std::move(then)](bool ok) {
+        if (!ok) {
+            then(false); // it said why; there is nothing to read
+            return;
         }
-        const auto rate = rates->find(code);
-        if (rate == rates->end()) {
-            m_platform.ui.message(MessageIcon::Critical, AppTitle,
-                                  "Cannot find currency rate for " + code);
-            continue;
+        const FileRead feed = m_platform.storage.read(kept);
+        const auto rates =
+            feed.status == FileRead::Status::Ok ? parseEcbFeed(feed.bytes) : std::nullopt;
+        if (!rates) {
+            cannotRead(codes.front());
+            then(false);
+            return;
         }
-        WriteIni(Rates, code, rate->second);
-    }
-    return true;
+        for (const std::string& code : codes) {
+            if (code == NoCurrency) {
+                continue;
+            }
+            const auto rate = rates->find(code);
+            if (rate == rates->end()) {
+                m_platform.ui.message(MessageIcon::Critical, AppTitle,
+                                      "Cannot find currency rate for " + code);
+                continue;
+            }
+            WriteIni(RatesSection, code, rate->second);
+        }
+        then(true);
+    });
 }
 
 } // namespace zel

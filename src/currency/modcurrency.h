@@ -6,9 +6,11 @@
 #include "host/platform.h"
 
 #include <array>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace zel {
 
@@ -39,23 +41,30 @@ class ModCurrency {
     /// text is read from its start as a plain number; otherwise the regional way.
     static double ToNumber(std::optional<std::string_view> value, const Symbols& symbols);
 
+    using Rates = std::array<float, 8>;
+
     /// The eight rates of the Currency page, 0 for a rate that is missing or
-    /// unreadable. Stored rates more than 7 days old are offered for download first.
-    std::array<float, 8> LoadRates(const Symbols& symbols);
+    /// unreadable, handed to `then`. Stored rates more than 7 days old are
+    /// offered for download first.
+    void LoadRates(const Symbols& symbols, Then<const Rates&> then);
     /// Row 8's caption, "Mexican Peso - MXN"; empty while no own currency is set.
     std::string ownCurrencyCaption();
-    /// The two input boxes that name the user's own currency, then a download.
-    /// True when the Currency page must be loaded again.
-    bool SetMyCurrency();
+    /// The two input boxes that name the user's own currency, then a download;
+    /// `then` learns whether the Currency page must be loaded again.
+    void SetMyCurrency(Then<bool> then);
 
     /// Whether the Internet can be reached; says so when it cannot.
     bool IsConnected(std::string& connectionType);
-    /// Fetches `url` into `fileName`; says why when it cannot.
-    bool DownloadFile(const std::string& url, const std::string& fileName);
-    /// Asks, then refreshes every rate from the source the settings name.
-    void DownloadRates();
-    /// True while a download runs (the window takes no other action meanwhile).
-    bool downloading() const { return m_downloading; }
+    /// Fetches `url` into `fileName`; says why when it cannot. `then` learns
+    /// whether the file is there.
+    void DownloadFile(const std::string& url, const std::string& fileName, Then<bool> then);
+    /// Asks, then refreshes every rate from the source the settings name;
+    /// `then` runs when the download has ended, whichever way.
+    void DownloadRates(Then<bool> then = {});
+    /// True from the question that offers a download until it has ended, and
+    /// while the own currency is being named: the window takes no other
+    /// action meanwhile.
+    bool downloading() const { return m_step != Step::Idle; }
 
     /// The text of the Currency page's "i" key: where the rates come from.
     std::string sourceNote();
@@ -65,19 +74,33 @@ class ModCurrency {
     std::string settingsFile();
 
   private:
+    /// Where a flow that spans requests stands.
+    enum class Step {
+        Idle,
+        Naming,      ///< the input boxes of the own currency are open
+        Offering,    ///< "Download recent currency rates ?" is asked
+        Downloading, ///< transfers run; the busy pointer shows
+    };
     enum class Source { Ecb, Converter };
+    using Codes = std::array<std::string, 7>;
     Source source();
     std::string techFile(std::string_view name);
     std::string today();
-    bool fetchConverterRates(const std::array<std::string, 7>& codes);
-    bool fetchEcbRates(const std::array<std::string, 7>& codes);
+    Rates readRates(const Symbols& symbols);
+    void nameCode(Then<bool> then);
+    void fetchConverterRates(const Codes& codes, std::size_t next,
+                             std::shared_ptr<std::vector<std::string>> fetched, Then<bool> then);
+    bool storeConverterRates(const Codes& codes, const std::vector<std::string>& fetched);
+    void fetchEcbRates(const Codes& codes, Then<bool> then);
+    void finishDownload(bool done);
     void cannotRead(std::string_view code);
     void reportUnsaved();
 
     Platform& m_platform;
     std::string m_myCurrCode{NoCurrency};
-    bool m_downloading = false;
-    bool m_unsaved = false; ///< a write failed since the user was last told
+    Step m_step = Step::Idle;
+    Then<bool> m_downloaded; ///< what runs when the download has ended
+    bool m_unsaved = false;  ///< a write failed since the user was last told
 };
 
 } // namespace zel

@@ -14,17 +14,39 @@ namespace zel {
 
 enum class MessageIcon { Information, Exclamation, Critical };
 
+/// A box the user must answer before the flow that asked goes on: a Yes/No
+/// question, or an input box.
+struct Request {
+    enum class Kind { Question, Input };
+    Kind kind = Kind::Question;
+    std::string title;
+    std::string text; ///< the question, or the input box's prompt
+};
+
+/// The user's answer: Yes or No to a question; the text typed into an input
+/// box, or nothing when it was cancelled.
+struct Answer {
+    bool yes = false;
+    std::optional<std::string> text;
+};
+
+/// Nobody waits for a request: the asker hands over what to do with the answer
+/// and returns. Whoever answers calls it later, from its own event loop, and at
+/// most once; a fake may call it at once, as every request is the last step of
+/// what makes it.
+template <typename Reply> using Then = std::function<void(Reply)>;
+
 /// What the user sees and answers outside the window's own controls:
 /// message boxes, questions, input boxes, the bell, the busy pointer, the end.
 class Interaction {
   public:
     virtual ~Interaction() = default;
     virtual void beep() = 0;
+    /// A message box. It does not wait: boxes are shown one after another, in
+    /// the order they were made, and a request waits behind them.
     virtual void message(MessageIcon icon, std::string_view title, std::string_view text) = 0;
-    /// A Yes/No question; true for Yes.
-    virtual bool question(std::string_view title, std::string_view text) = 0;
-    /// An input box; nothing when it was cancelled.
-    virtual std::optional<std::string> input(std::string_view title, std::string_view prompt) = 0;
+    /// Shows a question or an input box; `then` takes the answer.
+    virtual void ask(const Request& request, Then<const Answer&> then) = 0;
     virtual void setBusy(bool busy) = 0;
     /// The program ends at once.
     virtual void quit() = 0;
@@ -82,10 +104,10 @@ class Network {
     /// Whether the machine can reach the Internet (true when nobody can tell),
     /// and a word for the kind of connection.
     virtual bool connected(std::string& connectionType) = 0;
-    /// A blocking GET; the window keeps repainting meanwhile. An empty body,
-    /// a transfer over its size or time limit and an HTTP error status are
-    /// failed transfers.
-    virtual HttpReply get(const std::string& url) = 0;
+    /// Starts a GET; `then` takes the outcome when the transfer ends. An empty
+    /// body, a transfer over its size or time limit and an HTTP error status
+    /// are failed transfers.
+    virtual void get(const std::string& url, Then<HttpReply> then) = 0;
 };
 
 class Clock {

@@ -26,11 +26,12 @@ bool LazyNetwork::connected(std::string& connectionType) {
     return true; // the transfer will say what is missing
 }
 
-HttpReply LazyNetwork::get(const std::string& url) {
+void LazyNetwork::get(const std::string& url, Then<HttpReply> then) {
     if (Network* real = network()) {
-        return real->get(url);
+        real->get(url, std::move(then));
+        return;
     }
-    return {false, 1, "Cannot load the download module: " + m_error, {}};
+    then({false, 1, "Cannot load the download module: " + m_error, {}});
 }
 
 } // namespace zel

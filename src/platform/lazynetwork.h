@@ -16,7 +16,7 @@ class LazyNetwork : public Network {
     ~LazyNetwork() override;
 
     bool connected(std::string& connectionType) override;
-    HttpReply get(const std::string& url) override;
+    void get(const std::string& url, Then<HttpReply> then) override;
 
   private:
     Network* network();

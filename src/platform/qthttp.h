@@ -11,8 +11,8 @@ class QNetworkAccessManager;
 namespace zel {
 
 /// HTTP with QtNetwork: HTTPS, redirects followed (never from HTTPS down to
-/// HTTP), each transfer at most `Limits` long and large. The transfer blocks its
-/// caller in a local event loop, so the window keeps repainting meanwhile.
+/// HTTP), each transfer at most `Limits` long and large. A transfer runs in the
+/// caller's event loop and hands its outcome over when it ends.
 class QtHttp : public Network {
   public:
     struct Limits {
@@ -26,7 +26,7 @@ class QtHttp : public Network {
 
     /// Asks QNetworkInformation where a backend exists; "unknown" counts as connected.
     bool connected(std::string& connectionType) override;
-    HttpReply get(const std::string& url) override;
+    void get(const std::string& url, Then<HttpReply> then) override;
 
   private:
     Limits m_limits;

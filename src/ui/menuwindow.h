@@ -41,6 +41,9 @@ class MenuWindow : public QWidget {
 
     /// Draws the state of Menu.
     void render();
+    /// Runs an event of Menu that comes from outside the window (the answer to
+    /// a box, the end of a transfer), then draws what Menu holds.
+    void dispatch(const std::function<void()>& handler) { act(handler); }
     /// A short flash of the display, seen where the bell is muted.
     void flash();
 

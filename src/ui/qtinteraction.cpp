@@ -17,6 +17,11 @@ QString shown(std::string_view text) {
 
 } // namespace
 
+QtInteraction::~QtInteraction() {
+    m_waiting.clear();
+    delete m_shown; // never answered: the window is going
+}
+
 bool QtInteraction::takeDialogClosed() {
     return std::exchange(m_dialogClosed, false);
 }
@@ -31,28 +36,67 @@ void QtInteraction::beep() {
 void QtInteraction::message(MessageIcon icon, std::string_view title, std::string_view text) {
     const QMessageBox::Icon icons[] = {QMessageBox::Information, QMessageBox::Warning,
                                        QMessageBox::Critical};
-    QMessageBox box(icons[static_cast<int>(icon)], shown(title), shown(text), QMessageBox::Ok,
-                    m_parent);
-    box.exec();
-    m_dialogClosed = true;
+    const QMessageBox::Icon kind = icons[static_cast<int>(icon)];
+    open({[kind, title = shown(title), text = shown(text)](QWidget* parent) -> QDialog* {
+              return new QMessageBox(kind, title, text, QMessageBox::Ok, parent);
+          },
+          {}});
 }
 
-bool QtInteraction::question(std::string_view title, std::string_view text) {
-    const auto answer = QMessageBox::question(m_parent, shown(title), shown(text),
-                                              QMessageBox::Yes | QMessageBox::No);
-    m_dialogClosed = true;
-    return answer == QMessageBox::Yes;
-}
-
-std::optional<std::string> QtInteraction::input(std::string_view title, std::string_view prompt) {
-    bool ok = false;
-    const QString text = QInputDialog::getText(m_parent, shown(title), shown(prompt),
-                                               QLineEdit::Normal, QString(), &ok);
-    m_dialogClosed = true;
-    if (!ok) {
-        return std::nullopt;
+void QtInteraction::ask(const Request& request, Then<const Answer&> then) {
+    const QString title = shown(request.title);
+    const QString text = shown(request.text);
+    if (request.kind == Request::Kind::Question) {
+        open({[title, text](QWidget* parent) -> QDialog* {
+                  return new QMessageBox(QMessageBox::Question, title, text,
+                                         QMessageBox::Yes | QMessageBox::No, parent);
+              },
+              [this, then](QDialog& box, int) {
+                  const auto& question = static_cast<QMessageBox&>(box);
+                  const bool yes = question.clickedButton() == question.button(QMessageBox::Yes);
+                  m_dispatch([&] { then(Answer{yes, std::nullopt}); });
+              }});
+        return;
     }
-    return text.toStdString();
+    open({[title, text](QWidget* parent) -> QDialog* {
+              auto* box = new QInputDialog(parent);
+              box->setWindowTitle(title);
+              box->setLabelText(text);
+              return box;
+          },
+          [this, then](QDialog& box, int result) {
+              Answer answer;
+              if (result == QDialog::Accepted) {
+                  answer.text = static_cast<QInputDialog&>(box).textValue().toStdString();
+              }
+              m_dispatch([&] { then(answer); });
+          }});
+}
+
+void QtInteraction::open(Box box) {
+    m_waiting.push_back(std::move(box));
+    showNext();
+}
+
+void QtInteraction::showNext() {
+    if (m_shown || m_waiting.empty()) {
+        return;
+    }
+    Box box = std::move(m_waiting.front());
+    m_waiting.pop_front();
+    QDialog* dialog = box.make(m_parent);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    QObject::connect(dialog, &QDialog::finished, dialog,
+                     [this, dialog, closed = std::move(box.closed)](int result) {
+                         m_shown = nullptr;
+                         m_dialogClosed = true;
+                         if (closed) {
+                             closed(*dialog, result);
+                         }
+                         showNext();
+                     });
+    m_shown = dialog;
+    dialog->open();
 }
 
 void QtInteraction::setBusy(bool busy) {
@@ -66,6 +110,12 @@ void QtInteraction::setBusy(bool busy) {
 void QtInteraction::quit() {
     QApplication::closeAllWindows();
     QApplication::exit(0);
+}
+
+void DispatchedNetwork::get(const std::string& url, Then<HttpReply> then) {
+    m_network.get(url, [dispatch = m_dispatch, then = std::move(then)](HttpReply reply) {
+        dispatch([&] { then(std::move(reply)); });
+    });
 }
 
 } // namespace zel

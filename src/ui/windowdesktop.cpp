@@ -204,11 +204,12 @@ QString MenuWindow::aboutText() {
 }
 
 void MenuWindow::showAbout() {
-    QMessageBox box(QMessageBox::NoIcon, QStringLiteral("About zelFLIGHTAB"), aboutText(),
-                    QMessageBox::Ok, this);
-    box.setTextFormat(Qt::RichText);
-    box.setIconPixmap(pageIcon(0, 48, textColours(false).row, devicePixelRatioF()));
-    box.exec();
+    auto* box = new QMessageBox(QMessageBox::NoIcon, QStringLiteral("About zelFLIGHTAB"),
+                                aboutText(), QMessageBox::Ok, this);
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    box->setTextFormat(Qt::RichText);
+    box->setIconPixmap(pageIcon(0, 48, textColours(false).row, devicePixelRatioF()));
+    box->open();
 }
 
 bool MenuWindow::shortcut(QKeyEvent* e) {

@@ -9,7 +9,9 @@
 #include "platform/qthttp.h"
 #include "platform/qtstorage.h"
 
+#include <QCoreApplication>
 #include <QDir>
+#include <QEventLoop>
 #include <QNetworkReply>
 #include <QTemporaryDir>
 
@@ -28,6 +30,23 @@ class LocalHttp : public QtHttp {
         return true;
     }
 };
+
+/// One transfer to its end, the test's event loop serving the local server meanwhile.
+HttpReply fetch(Network& http, const std::string& url) {
+    std::optional<HttpReply> reply;
+    http.get(url, [&](HttpReply r) { reply = std::move(r); });
+    while (!reply) {
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    }
+    return *reply;
+}
+
+/// Runs the event loop until Menu's transfers have ended.
+void settle(const Menu& menu) {
+    while (menu.busy()) {
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    }
+}
 
 /// A port with nobody listening.
 QByteArray refusedUrl() {
@@ -67,7 +86,7 @@ TEST(QtHttp, TurnsEveryFailureIntoAnError) {
     };
     LocalHttp http;
     for (const auto& [name, url, error] : cases) {
-        const HttpReply reply = http.get(url.toStdString());
+        const HttpReply reply = fetch(http, url.toStdString());
         EXPECT_EQ(reply.ok, error == QNetworkReply::NoError) << name;
         EXPECT_EQ(reply.error, error) << name << ": " << reply.errorText;
         EXPECT_EQ(reply.body, reply.ok ? "rates" : "") << name;
@@ -104,6 +123,7 @@ struct Download {
     void openAndConvert() {
         ui.answers = {true};
         menu.LabMenu_Click(18);
+        settle(menu);
         for (char c : std::string("100")) {
             menu.Form_KeyPress(static_cast<unsigned char>(c));
         }

@@ -48,11 +48,17 @@ TEST(Console, SkipsCommentsAndBlankLinesAndReadsWindowsLineEnds) {
 
 TEST(Console, PrintsDialogsAndUsesQueuedAnswers) {
     Session s;
+    std::vector<Answer> answers;
+    auto keep = [&](const Answer& a) { answers.push_back(a); };
     s.session.run("answer text MXN");
-    EXPECT_EQ(s.ui.input("myCurrency", "code\r"), "MXN");
-    EXPECT_FALSE(s.ui.question("Currency", "Download?"));
+    s.ui.ask({Request::Kind::Input, "myCurrency", "code\r"}, keep);
+    s.ui.ask({Request::Kind::Question, "Currency", "Download?"}, keep);
     s.session.run("answer yes");
-    EXPECT_TRUE(s.ui.question("Currency", "Download?"));
+    s.ui.ask({Request::Kind::Question, "Currency", "Download?"}, keep);
+    ASSERT_EQ(answers.size(), 3u);
+    EXPECT_EQ(answers[0].text, "MXN");
+    EXPECT_FALSE(answers[1].yes);
+    EXPECT_TRUE(answers[2].yes);
     s.ui.message(MessageIcon::Critical, "Error", "say \"hi\" \\ there");
     EXPECT_EQ(s.out.str(), "input \"myCurrency\" \"code\\r\" -> \"MXN\"\n"
                            "question \"Currency\" \"Download?\" -> no\n"

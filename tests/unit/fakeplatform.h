@@ -37,22 +37,23 @@ class FakeInteraction : public Interaction {
         events.push_back(std::string(Icons[static_cast<int>(icon)]) + " " + std::string(title) +
                          ": " + std::string(text));
     }
-    bool question(std::string_view, std::string_view text) override {
-        events.push_back("question " + std::string(text));
-        const bool yes = !answers.empty() && answers.front();
-        if (!answers.empty()) {
-            answers.pop_front();
+    /// Answers at once, from the queues; nothing queued is No, or Cancel.
+    void ask(const Request& request, Then<const Answer&> then) override {
+        Answer answer;
+        if (request.kind == Request::Kind::Question) {
+            events.push_back("question " + request.text);
+            answer.yes = !answers.empty() && answers.front();
+            if (!answers.empty()) {
+                answers.pop_front();
+            }
+        } else {
+            events.push_back("input " + request.text);
+            if (!inputs.empty()) {
+                answer.text = inputs.front();
+                inputs.pop_front();
+            }
         }
-        return yes;
-    }
-    std::optional<std::string> input(std::string_view, std::string_view prompt) override {
-        events.push_back("input " + std::string(prompt));
-        if (inputs.empty()) {
-            return std::nullopt;
-        }
-        auto answer = inputs.front();
-        inputs.pop_front();
-        return answer;
+        then(answer);
     }
     void setBusy(bool busy) override { events.emplace_back(busy ? "busy on" : "busy off"); }
     void quit() override { events.emplace_back("quit"); }
@@ -109,14 +110,15 @@ class FakeNetwork : public Network {
         type = "LAN";
         return online;
     }
-    HttpReply get(const std::string& url) override {
+    /// Ends each transfer at once.
+    void get(const std::string& url, Then<HttpReply> then) override {
         requested.push_back(url);
         if (during) {
             during();
         }
         const auto reply = replies.find(url);
-        return reply != replies.end() ? reply->second
-                                      : HttpReply{false, 1, "Connection refused", {}};
+        then(reply != replies.end() ? reply->second
+                                    : HttpReply{false, 1, "Connection refused", {}});
     }
     void serve(const std::string& url, std::string body) { replies[url] = {true, 0, {}, body}; }
 };

@@ -264,8 +264,12 @@ class DialogTest : public ::testing::Test {
         window.activateWindow();
         QApplication::processEvents();
     }
-    /// The release of the key that closed the last box.
+    /// The release of the key that closed the last box, once it has closed:
+    /// boxes open without holding up the window's events.
     void releaseCloser() {
+        (void)QTest::qWaitFor(
+            [this] { return m_closed != nullptr && QApplication::activeModalWidget() == nullptr; },
+            2000);
         m_closed = nullptr;
         QTest::keyRelease(&window, m_closer);
     }
