@@ -20,7 +20,7 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t siz
         }
     }
     for (int row = 1; row <= PageSheet::Rows; ++row) {
-        ZEL_CHECK(page[row].fontSize == 9 || page[row].fontSize == 12);
+        ZEL_CHECK(page[row].compact == compactCaption(page[row].caption, true));
     }
     return 0;
 }

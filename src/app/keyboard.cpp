@@ -56,12 +56,15 @@ void Menu::keyPressNumber(char32_t keyAscii) {
         break;
     default:
         if (keyAscii >= '0' && keyAscii <= '9') {
-            try {
-                if (!m_pad.typeDigit(static_cast<int>(keyAscii - '0'))) {
-                    m_platform.ui.beep();
-                }
-            } catch (const ArithmeticFault& fault) {
-                show(fault);
+            switch (m_pad.typeDigit(static_cast<int>(keyAscii - '0'))) {
+            case ScratchPad::Typed::Full:
+                m_platform.ui.beep();
+                break;
+            case ScratchPad::Typed::Overflow:
+                show(Fault::Overflow);
+                break;
+            case ScratchPad::Typed::Digit:
+                break;
             }
         }
         break;

@@ -6,13 +6,12 @@ namespace zel {
 namespace {
 
 constexpr std::string_view AppTitle = "zelFLIGHTAB";
-constexpr std::string_view AllDigitsTag = "0.##############";
 
 } // namespace
 
 Menu::Menu(Platform& platform, const PageCatalogue& pages)
     : m_platform(platform), m_pages(pages), m_title(AppTitle) {
-    m_digitsCaption = digitsCaptionFor(m_digitsTag);
+    showDigits();
 }
 
 void Menu::Form_Load() {
@@ -39,7 +38,7 @@ void Menu::Form_Activate() {
     // The entry as it stands, in today's symbols: a number typed before the
     // user switched windows is still the one a row click takes ("0." at start).
     m_pad.redisplay(textPage(), before);
-    m_digitsCaption = digitsCaptionFor(m_digitsTag);
+    showDigits();
 }
 
 void Menu::Form_QueryUnload() {
@@ -141,18 +140,13 @@ void Menu::LabValue_Click(int index) {
 }
 
 bool Menu::convert(int& inputRow) {
-    try {
-        const Report report = m_table->convert(m_sheet, m_pad.inputValue(), inputRow);
-        show(report);
-        if (report.fault) {
-            show(*report.fault);
-            return false;
-        }
-        return true;
-    } catch (const ArithmeticFault& fault) {
-        show(fault);
-        return false;
+    Report report = m_table->convert(m_sheet, m_pad.inputValue(), inputRow);
+    if (const Faulted fault = m_sheet.takeFault(); fault && !report.fault) {
+        // The calculation stopped at the fault: nothing it would have said after it counts.
+        report = Report{.kind = Report::Kind::None, .text = {}, .fault = fault};
     }
+    show(report);
+    return !report.fault;
 }
 
 void Menu::decode() {
@@ -170,10 +164,13 @@ void Menu::show(const Report& report) {
     case Report::Kind::None:
         break;
     }
+    show(report.fault);
 }
 
-void Menu::show(const ArithmeticFault& fault) {
-    m_platform.ui.message(MessageIcon::Critical, AppTitle, fault.what());
+void Menu::show(Faulted fault) {
+    if (fault) {
+        m_platform.ui.message(MessageIcon::Critical, AppTitle, faultText(*fault));
+    }
 }
 
 void Menu::LabOP_Click(int index) {
@@ -184,17 +181,7 @@ void Menu::LabOP_Click(int index) {
 }
 
 void Menu::pressOperator(int index) {
-    try {
-        m_pad.operate(index);
-    } catch (const ArithmeticFault& fault) {
-        show(fault);
-    }
-}
-
-const std::string& Menu::operatorCaption(int key) const {
-    static const std::array<std::string, ScratchPad::Operators + 1> Captions{"",  "+",   "-",
-                                                                             "x", " . ", " . "};
-    return Captions.at(static_cast<std::size_t>(key));
+    show(m_pad.operate(index));
 }
 
 void Menu::LabC_Click() {
@@ -225,21 +212,21 @@ void Menu::LabMEM_Click(int index) {
         }
         return;
     }
-    try {
-        m_pad.memoryKey(index);
-    } catch (const ArithmeticFault& fault) {
-        show(fault);
-    }
+    show(m_pad.memoryKey(index));
 }
 
-std::string Menu::digitsCaptionFor(const std::string& tag) const {
-    if (tag == "0") {
-        return "0";
+void Menu::showDigits() {
+    switch (m_digits) {
+    case Digits::Two:
+        m_digitsCaption = formatNumber(0, "0.00", m_symbols);
+        break;
+    case Digits::All:
+        m_digitsCaption = "0" + m_symbols.decimal + "...";
+        break;
+    case Digits::Whole:
+        m_digitsCaption = "0";
+        break;
     }
-    if (tag == "0.00") {
-        return formatNumber(0, "0.00", m_symbols);
-    }
-    return "0" + m_symbols.decimal + "...";
 }
 
 void Menu::LabDEC_Click() {
@@ -247,14 +234,10 @@ void Menu::LabDEC_Click() {
         return;
     }
     // Two decimals -> all digits -> whole numbers -> two decimals.
-    if (m_digitsCaption.find("...") != std::string::npos) {
-        m_digitsTag = "0";
-    } else if (m_digitsCaption == "0") {
-        m_digitsTag = "0.00";
-    } else {
-        m_digitsTag = std::string(AllDigitsTag);
-    }
-    m_digitsCaption = digitsCaptionFor(m_digitsTag);
+    m_digits = m_digits == Digits::Two   ? Digits::All
+               : m_digits == Digits::All ? Digits::Whole
+                                         : Digits::Two;
+    showDigits();
     DisplayTags();
 }
 

@@ -47,6 +47,9 @@ inline constexpr int Backspace = 8, Enter = 13, Escape = 27, F1 = 112, F12 = 123
 
 enum class Face { Menu, Page };
 
+/// What the digits key shows the rows with; each press moves to the next.
+enum class Digits { Two, All, Whole };
+
 /// The state of the one window and its event handlers.
 class Menu {
   public:
@@ -97,7 +100,10 @@ class Menu {
     const PageCatalogue& pages() const { return m_pages; }
     const std::string& title() const { return m_title; }
     const std::string& display() const { return m_pad.display(); }
-    int displaySize() const { return m_pad.displaySize(); }
+    /// A long display is drawn smaller.
+    bool displayCompact() const { return m_pad.displayCompact(); }
+    Digits digits() const { return m_digits; }
+    /// The digits key's caption in the regional form: "0.00", "0.…", "0".
     const std::string& digitsCaption() const { return m_digitsCaption; }
     /// The memory, digits and operator panels are shown and hidden together.
     bool panelsVisible() const { return m_panelsVisible; }
@@ -106,7 +112,6 @@ class Menu {
     }
     /// MRC lights up amber while the memory holds a value.
     bool memoryLit(int key) const { return key == 0 && m_pad.memoryLit(); }
-    const std::string& operatorCaption(int key) const;
     bool operatorLit(int key) const { return m_pad.operatorLit(key); }
     const RowCell& row(int row) const { return m_sheet[row]; }
     const Symbols& symbols() const { return m_symbols; }
@@ -127,8 +132,8 @@ class Menu {
     void pressOperator(int index);
     /// Rings the bell or shows the warning a converter reported.
     void show(const Report& report);
-    void show(const ArithmeticFault& fault);
-    std::string digitsCaptionFor(const std::string& tag) const;
+    void show(Faulted fault);
+    void showDigits();
     void keyPressText(char32_t keyAscii);
     void keyPressNumber(char32_t keyAscii);
 
@@ -141,7 +146,7 @@ class Menu {
     const PageTable* m_table = nullptr;
     std::string m_title;
     Face m_face = Face::Menu;
-    std::string m_digitsTag = "0.00";
+    Digits m_digits = Digits::Two;
     std::string m_digitsCaption;
     bool m_panelsVisible = true;
     std::array<std::string, 3> m_memoryCaptions{"MRC", "M+", "M-"};

@@ -7,7 +7,10 @@
 namespace zel {
 
 void Menu::DisplayTags() {
-    const std::string pattern = "#,#" + m_digitsTag;
+    // Two decimals, up to 14 (every digit a double holds past the point), or none.
+    const std::string pattern = m_digits == Digits::Two   ? "#,#0.00"
+                                : m_digits == Digits::All ? "#,#0.##############"
+                                                          : "#,#0";
     auto number = [&](double value) { return formatNumber(value, pattern, m_symbols); };
     // Whether a row has something to show, and what.
     auto shown = [&](int row, double& v) {
@@ -31,9 +34,10 @@ void Menu::DisplayTags() {
             }
         }
         m_sheet[row].caption = std::move(caption);
+        m_sheet[row].prefix.clear();
     }
     for (int row = 1; row <= PageSheet::Rows; ++row) {
-        m_sheet[row].fontSize = charCount(m_sheet[row].caption) > 14 ? 9 : 12;
+        m_sheet[row].compact = compactCaption(m_sheet[row].caption, false);
     }
     for (int row = 1; row <= PageSheet::Rows; ++row) {
         double v = 0;
@@ -53,10 +57,12 @@ void Menu::DisplayTags() {
             caption = formatNumber(v, "000", m_symbols);
             break;
         case Form::Side:
-            caption = (v > 0 ? "R " : "L ") + number(std::fabs(v));
+            m_sheet[row].prefix = v > 0 ? "R " : "L ";
+            caption = m_sheet[row].prefix + number(std::fabs(v));
             break;
         case Form::HeadTail:
-            caption = (v > 0 ? "T " : "H ") + number(std::fabs(v));
+            m_sheet[row].prefix = v > 0 ? "T " : "H ";
+            caption = m_sheet[row].prefix + number(std::fabs(v));
             break;
         case Form::Number:
         case Form::Text:

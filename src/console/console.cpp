@@ -8,6 +8,7 @@
 #include <QCoreApplication>
 #include <QEventLoop>
 
+#include <array>
 #include <charconv>
 #include <fstream>
 #include <iostream>
@@ -16,6 +17,11 @@
 
 namespace zel {
 namespace {
+
+/// The operator keys as the console writes them: the divide key's two faces
+/// are a dot between blanks, as in a plain-text listing.
+constexpr std::array<std::string_view, ScratchPad::Operators + 1> OperatorSymbols{
+    "", "+", "-", "x", " . ", " . "};
 
 std::string_view iconName(MessageIcon icon) {
     switch (icon) {
@@ -353,7 +359,7 @@ std::optional<std::string> ConsoleSession::run(const std::string& rawLine) {
         if (argument.empty() && space == std::string_view::npos) {
             show(m_menu, m_out);
         } else if (argument == "display") {
-            m_out << "display " << quoted(m_menu.display()) << ' ' << m_menu.displaySize() << '\n';
+            showDisplay(m_menu, m_out);
         } else if (argument == "rows") {
             for (int row = 1; row <= PageSheet::Rows; ++row) {
                 showRow(m_menu, row, m_out);
@@ -380,7 +386,7 @@ std::optional<std::string> ConsoleSession::run(const std::string& rawLine) {
 void ConsoleSession::show(const Menu& menu, std::ostream& out) {
     out << "face " << (menu.face() == Face::Page ? "page" : "menu") << '\n';
     out << "title " << quoted(menu.title()) << '\n';
-    out << "display " << quoted(menu.display()) << ' ' << menu.displaySize() << '\n';
+    showDisplay(menu, out);
     out << "digits " << quoted(menu.digitsCaption()) << '\n';
     out << "panels" << (menu.panelsVisible() ? " memory digits operators" : "") << '\n';
     out << "mem";
@@ -389,7 +395,8 @@ void ConsoleSession::show(const Menu& menu, std::ostream& out) {
     }
     out << "\nops";
     for (int key = 1; key <= ScratchPad::Operators; ++key) {
-        out << ' ' << quoted(menu.operatorCaption(key)) << (menu.operatorLit(key) ? "*" : "");
+        out << ' ' << quoted(OperatorSymbols[static_cast<std::size_t>(key)])
+            << (menu.operatorLit(key) ? "*" : "");
     }
     out << '\n';
     for (int row = 1; row <= PageSheet::Rows; ++row) {
@@ -400,7 +407,12 @@ void ConsoleSession::show(const Menu& menu, std::ostream& out) {
 void ConsoleSession::showRow(const Menu& menu, int row, std::ostream& out) {
     const RowCell& cell = menu.row(row);
     out << "row " << row << ' ' << quoted(cell.unit) << ' ' << quoted(cell.caption) << ' '
-        << cell.fontSize << ' ' << (cell.input ? "input" : "normal") << '\n';
+        << (cell.compact ? 9 : 12) << ' ' << (cell.input ? "input" : "normal") << '\n';
+}
+
+void ConsoleSession::showDisplay(const Menu& menu, std::ostream& out) {
+    // Point sizes as the window draws them: small text for a long number.
+    out << "display " << quoted(menu.display()) << ' ' << (menu.displayCompact() ? 10 : 18) << '\n';
 }
 
 std::unique_ptr<SharedPlatform> startPlatform(const Options& options) {

@@ -56,6 +56,8 @@ class ConsoleSession {
 
     /// Prints the window's state, as the "show" command does.
     static void show(const Menu& menu, std::ostream& out);
+    /// Prints the display and its size in points, as "show display" does.
+    static void showDisplay(const Menu& menu, std::ostream& out);
     /// Prints one row as "show" does: row N "unit" "caption" size input|normal.
     static void showRow(const Menu& menu, int row, std::ostream& out);
 

@@ -58,7 +58,7 @@ Report Convert_Speed(PageSheet& page, double x, int& inputRow) {
         page.setValue(row, v / multiplier(page.factor(inputRow)) * multiplier(page.factor(row)));
     }
     const double k = std::floor(page.value(1) + 0.5);
-    if (k < 0) {
+    if (k < 0 || page.failed()) {
         return {};
     }
     std::string_view force = "12";

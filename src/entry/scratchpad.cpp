@@ -34,7 +34,7 @@ void ScratchPad::reset(bool textPage) {
     m_inputValue = 0;
     m_inputText = textPage ? "" : "0";
     m_typed = false;
-    m_displaySize = 18;
+    m_displayCompact = false;
     if (m_newOperand) {
         m_newOperand = false;
     } else {
@@ -55,7 +55,7 @@ void ScratchPad::displayValue() {
         const std::string typedFraction = m_inputText.substr(m_inputText.find(dec) + dec.size());
         m_display = sign + formatNumber(whole, "#,##0", m_symbols) + dec + typedFraction;
     }
-    m_displaySize = charCount(m_display) > 11 ? 10 : 18;
+    m_displayCompact = charCount(m_display) > 11;
 }
 
 void ScratchPad::redisplay(bool textPage, const Symbols& before) {
@@ -72,7 +72,7 @@ void ScratchPad::redisplay(bool textPage, const Symbols& before) {
     }
 }
 
-bool ScratchPad::typeDigit(int digit) {
+ScratchPad::Typed ScratchPad::typeDigit(int digit) {
     const std::string& dec = m_symbols.decimal;
     // The display takes at most 13 characters after the decimal symbol.
     const auto at = m_display.find(dec);
@@ -80,7 +80,7 @@ bool ScratchPad::typeDigit(int digit) {
     const std::size_t position =
         at == std::string::npos ? 0 : charCount(std::string_view(m_display).substr(0, at)) + 1;
     if (length - position >= 14) {
-        return false;
+        return Typed::Full;
     }
     if (contains(m_inputText, dec)) {
         m_inputText += static_cast<char>('0' + digit);
@@ -88,12 +88,16 @@ bool ScratchPad::typeDigit(int digit) {
     } else {
         // Whole digits accumulate arithmetically, keeping the sign shown.
         const double sign = m_display.starts_with("-") ? -1 : 1;
-        m_inputValue = finite(sign * (std::fabs(m_inputValue) * 10 + digit));
+        const double value = sign * (std::fabs(m_inputValue) * 10 + digit);
+        if (!std::isfinite(value)) {
+            return Typed::Overflow;
+        }
+        m_inputValue = value;
         m_inputText = generalText(m_inputValue, m_symbols);
     }
     m_typed = true;
     displayValue();
-    return true;
+    return Typed::Digit;
 }
 
 void ScratchPad::typeDecimal() {
@@ -137,29 +141,35 @@ void ScratchPad::backspaceText() {
     }
 }
 
-void ScratchPad::operate(int key) {
+Faulted ScratchPad::operate(int key) {
     if (key == 2 && m_inputValue == 0) {
         // Minus on an empty entry starts a negative number.
         m_display = "-0" + m_symbols.decimal;
         m_inputText = "-0";
-        return;
+        return std::nullopt;
     }
     double result = m_inputValue;
     switch (m_pendingOperator) {
     case 1:
-        result = finite(m_accumulator + m_inputValue);
+        result = m_accumulator + m_inputValue;
         break;
     case 2:
-        result = finite(m_accumulator - m_inputValue);
+        result = m_accumulator - m_inputValue;
         break;
     case 3:
-        result = finite(m_accumulator * m_inputValue);
+        result = m_accumulator * m_inputValue;
         break;
     case 4:
-        result = divide(m_accumulator, m_inputValue);
+        if (m_inputValue == 0) {
+            return Fault::DivisionByZero;
+        }
+        result = m_accumulator / m_inputValue;
         break;
     default:
         break;
+    }
+    if (!std::isfinite(result)) {
+        return Fault::Overflow;
     }
     m_inputValue = result;
     m_newOperand = true;
@@ -175,9 +185,10 @@ void ScratchPad::operate(int key) {
     } else {
         m_operatorLit[4] = m_operatorLit[5] = true;
     }
+    return std::nullopt;
 }
 
-void ScratchPad::memoryKey(int key) {
+Faulted ScratchPad::memoryKey(int key) {
     switch (key) {
     case 0:
         if (m_inputValue != m_memory) {
@@ -189,15 +200,19 @@ void ScratchPad::memoryKey(int key) {
         displayValue();
         break;
     case 1:
-        m_memory = finite(m_memory + m_inputValue);
+    case 2: {
+        const double sum = key == 1 ? m_memory + m_inputValue : m_memory - m_inputValue;
+        if (!std::isfinite(sum)) {
+            return Fault::Overflow;
+        }
+        m_memory = sum;
         break;
-    case 2:
-        m_memory = finite(m_memory - m_inputValue);
-        break;
+    }
     default:
-        return;
+        return std::nullopt;
     }
     m_memoryLit = m_memory != 0;
+    return std::nullopt;
 }
 
 } // namespace zel

@@ -2,6 +2,7 @@
 // SPDX-FileCopyrightText: 2026 zelFLIGHTAB developers
 #pragma once
 
+#include "entry/fault.h"
 #include "entry/numbertext.h"
 
 #include <array>
@@ -26,7 +27,8 @@ class ScratchPad {
     /// a row: a typed 0 is then a value, not an empty entry.
     bool typed() const { return m_typed; }
     const std::string& display() const { return m_display; }
-    int displaySize() const { return m_displaySize; }
+    /// A long display (more than 11 characters) is drawn smaller.
+    bool displayCompact() const { return m_displayCompact; }
     double accumulator() const { return m_accumulator; }
     int pendingOperator() const { return m_pendingOperator; }
     bool newOperand() const { return m_newOperand; }
@@ -44,8 +46,11 @@ class ScratchPad {
     /// a decimal symbol typed as `before`'s becomes today's.
     void redisplay(bool textPage, const Symbols& before);
 
-    /// A digit key. False when the display is full (the caller beeps).
-    bool typeDigit(int digit);
+    /// What a digit key did.
+    enum class Typed { Digit, Full, Overflow };
+    /// A digit key: taken, or refused because the display is full (the caller
+    /// beeps) or the number would leave the double range (nothing changes).
+    Typed typeDigit(int digit);
     void typeDecimal();
     void backspace();
     /// The entry becomes a stored row value, as text and number.
@@ -56,13 +61,13 @@ class ScratchPad {
     bool typeText(char32_t c, std::size_t limit);
     void backspaceText();
 
-    /// `LabOP_Click`. Throws ArithmeticFault, having changed nothing, when the
-    /// pending operation divides by zero or leaves the double range.
-    void operate(int key);
+    /// `LabOP_Click`. The fault, having changed nothing, when the pending
+    /// operation divides by zero or leaves the double range.
+    Faulted operate(int key);
     /// Forgets the pending operation (a row click ends an unfinished calculation).
     void dropPending() { m_pendingOperator = 0; }
     /// MRC (0: recall, or clear when already recalled), M+ (1), M- (2).
-    void memoryKey(int key);
+    Faulted memoryKey(int key);
 
   private:
     const Symbols& m_symbols;
@@ -70,7 +75,7 @@ class ScratchPad {
     double m_inputValue = 0;
     bool m_typed = false;
     std::string m_display;
-    int m_displaySize = 18;
+    bool m_displayCompact = false;
     double m_accumulator = 0;
     int m_pendingOperator = 0;
     bool m_newOperand = false;

@@ -120,15 +120,9 @@ Report Convert_FuelUplift(PageSheet& page, double x, int& inputRow) {
     }
     // Each total in its own unit system, from its own rows; the warning is read
     // before a total that overflows is reported.
-    try {
-        page.setValue(7, page.value(3) * page.value(5) + page.value(1));
-        page.setValue(8, page.value(4) * page.value(6) + page.value(2));
-    } catch (const ArithmeticFault& fault) {
-        if (report.kind == Report::Kind::None) {
-            throw;
-        }
-        report.fault = fault;
-    }
+    page.setValue(7, page.value(3) * page.value(5) + page.value(1));
+    page.setValue(8, page.value(4) * page.value(6) + page.value(2));
+    report.fault = page.takeFault();
     return report;
 }
 
@@ -190,7 +184,7 @@ Report Convert_Range(PageSheet& page, double x, int& inputRow) {
     // A known flow with a ground speed of 0 never reaches the range: no answer.
     if (range != 0 && solveQuantityOrFlow(
                           page, [&](double quantity) { return quantity / range * groundSpeed; },
-                          [&](double flow) { return divide(flow * range, groundSpeed); })) {
+                          [&](double flow) { return page.divide(flow * range, groundSpeed); })) {
         return {};
     }
     if (inputRow <= 6) {

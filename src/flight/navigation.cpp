@@ -16,18 +16,15 @@ bool known(double v) {
     return v > Unknown;
 }
 
-/// A row value narrowed to the single precision of the triangle.
-float narrow(double value) {
-    if (std::fabs(value) > std::numeric_limits<float>::max()) {
-        throw ArithmeticFault(ArithmeticFault::Kind::Overflow);
-    }
-    return static_cast<float>(value);
-}
-
-/// A value the triangle knows: the row's value when above 0, else unknown.
-float given(const PageSheet& page, int row) {
+/// A value the triangle knows: the row's value when above 0, else unknown. A
+/// value past the single precision of the triangle fails the page.
+float given(PageSheet& page, int row) {
     const double v = page.value(row);
-    return v > 0 ? narrow(v) : Unknown;
+    if (v > std::numeric_limits<float>::max()) {
+        page.fail(Fault::Overflow);
+        return Unknown;
+    }
+    return v > 0 ? static_cast<float>(v) : Unknown;
 }
 
 bool isDirection(double x) {

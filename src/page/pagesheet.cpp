@@ -2,25 +2,62 @@
 // SPDX-FileCopyrightText: 2026 zelFLIGHTAB developers
 #include "page/pagesheet.h"
 
+#include <cmath>
+
 #include "entry/fault.h"
 
 #include <algorithm>
 
 namespace zel {
 
+bool compactCaption(std::string_view caption, bool decoded) {
+    const std::size_t length = charCount(caption);
+    return decoded ? length >= 14 : length > 14;
+}
+
 void PageSheet::setValue(int row, double value) {
-    (*this)[row].tag = generalText(finite(value), m_symbols);
-    (*this)[row].held = true;
+    if (!std::isfinite(value)) {
+        fail(Fault::Overflow);
+    }
+    if (!failed()) {
+        (*this)[row].tag = generalText(value, m_symbols);
+        (*this)[row].held = true;
+    }
 }
 
 void PageSheet::setSingle(int row, float value) {
-    (*this)[row].tag = singleText(static_cast<float>(finite(value)), m_symbols);
-    (*this)[row].held = true;
+    if (!std::isfinite(value)) {
+        fail(Fault::Overflow);
+    }
+    if (!failed()) {
+        (*this)[row].tag = singleText(value, m_symbols);
+        (*this)[row].held = true;
+    }
 }
 
 void PageSheet::clear(int row) {
-    (*this)[row].tag = "0";
-    (*this)[row].held = false;
+    if (!failed()) {
+        (*this)[row].tag = "0";
+        (*this)[row].held = false;
+    }
+}
+
+void PageSheet::fail(Fault fault) {
+    if (!m_fault) {
+        m_fault = fault;
+    }
+}
+
+double PageSheet::divide(double a, double b) {
+    if (b == 0) {
+        fail(Fault::DivisionByZero);
+        return std::nan("");
+    }
+    const double q = a / b;
+    if (!std::isfinite(q)) {
+        fail(Fault::Overflow);
+    }
+    return q;
 }
 
 void PageSheet::reset() {
@@ -29,7 +66,8 @@ void PageSheet::reset() {
         cell.caption.clear();
         cell.tag = "0";
         cell.input = false;
-        cell.fontSize = 12;
+        cell.compact = false;
+        cell.prefix.clear();
         cell.computed = false;
         cell.held = false;
         cell.given = 0;

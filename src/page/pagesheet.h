@@ -2,10 +2,12 @@
 // SPDX-FileCopyrightText: 2026 zelFLIGHTAB developers
 #pragma once
 
+#include "entry/fault.h"
 #include "entry/numbertext.h"
 
 #include <array>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace zel {
@@ -17,12 +19,20 @@ struct RowCell {
     std::string unit;
     std::string caption;
     std::string tag = "0";
-    int fontSize = 12;
+    /// Drawn smaller so that a long caption fits its cell.
+    bool compact = false;
+    /// "R ", "L ", "T " or "H ": the side or head/tail letter before the
+    /// number of such a row; empty elsewhere.
+    std::string prefix;
     bool input = false;    ///< the input row: drawn in the input colour
     bool computed = false; ///< the value was derived, not typed (Mach - AS temperatures)
     bool held = false;     ///< a value was written, 0 included; "0" alone may mean none
     int given = 0;         ///< when the user typed into it (higher is newer); 0 never
 };
+
+/// Whether a caption is drawn small: a number longer than 14 characters; a
+/// decoded report's text from 14 characters on, as its words run longer.
+bool compactCaption(std::string_view caption, bool decoded);
 
 /// The rows of the page shown, with everything a page converter may touch:
 /// tags, directly written captions, the factors, which rows the user typed.
@@ -42,12 +52,23 @@ class PageSheet {
     /// Whether a value was written into the row since it was last cleared; on
     /// pages where a typed zero is a value this tells 0 from no value.
     bool holds(int row) const { return (*this)[row].held; }
-    /// Writes a value in the general conversion; a non-finite value is an overflow.
+    /// Writes a value in the general conversion; a non-finite value is an
+    /// overflow, and is not written.
     void setValue(int row, double value);
     /// Writes a single-precision value (7 significant digits).
     void setSingle(int row, float value);
     /// No value: tag "0".
     void clear(int row);
+
+    /// A calculation stops at its first fault: from then on nothing more is
+    /// written into a row, and the rows written before it stay.
+    void fail(Fault fault);
+    bool failed() const { return m_fault.has_value(); }
+    /// The fault that stopped the calculation, which is forgotten.
+    Faulted takeFault() { return std::exchange(m_fault, std::nullopt); }
+    /// a / b; a zero divisor or a result outside the double range fails the
+    /// calculation (the result is then NaN, which no row takes).
+    double divide(double a, double b);
     /// `ResetPage`: every value cell empty, tag "0", row colour, 12 points, nothing typed.
     void reset();
 
@@ -72,6 +93,7 @@ class PageSheet {
     std::array<RowCell, Rows + 1> m_rows{}; // rows 1..8; 0 unused
     std::array<double, Rows + 1> m_factors{};
     int m_lastGiven = 0;
+    Faulted m_fault;
 };
 
 } // namespace zel

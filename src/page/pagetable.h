@@ -14,13 +14,14 @@
 namespace zel {
 
 /// What a converter has to tell the user once it has done what it could: nothing,
-/// the bell (a refused entry), or a warning to read. A warning may come with a
-/// fault that stopped the calculation after it. The window rings or shows it.
+/// the bell (a refused entry), or a warning to read, and the fault that stopped
+/// the calculation, if one did (after the warning, when both are there). The
+/// window rings or shows it.
 struct Report {
     enum class Kind { None, Beep, Warning };
     Kind kind = Kind::None;
-    std::string text;                     ///< the warning
-    std::optional<ArithmeticFault> fault; ///< a calculation that stopped after the warning
+    std::string text; ///< the warning
+    Faulted fault;    ///< a calculation that stopped
 
     static Report beep() { return {Kind::Beep, {}, {}}; }
     static Report warning(std::string_view text) { return {Kind::Warning, std::string(text), {}}; }
@@ -69,8 +70,9 @@ double multiplier(double factor);
 inline constexpr float Pi = 3.14159274101257324f;
 
 /// A number page's converter: takes the typed value into the input row (which
-/// it may move) and writes the tags of the rows it computes. Arithmetic faults
-/// are thrown as ArithmeticFault; the rows written before one stay.
+/// it may move) and writes the tags of the rows it computes. An arithmetic
+/// fault fails the page (`PageSheet::fail`); the rows written before it stay.
+/// A converter that reads a fault and still has a warning to give returns both.
 using NumberConverter = Report (*)(PageSheet& page, double inputValue, int& inputRow);
 /// A text page's decoder: the typed text into the rows' captions.
 using TextDecoder = Report (*)(PageSheet& page, std::string_view text);

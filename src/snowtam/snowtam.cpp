@@ -118,7 +118,7 @@ void writeBraking(PageSheet& page, std::string_view code) {
 
 void sizeCaptions(PageSheet& page) {
     for (int row = 1; row <= PageSheet::Rows; ++row) {
-        page[row].fontSize = charCount(page[row].caption) >= 14 ? 9 : 12;
+        page[row].compact = compactCaption(page[row].caption, true);
     }
 }
 

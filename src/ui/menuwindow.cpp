@@ -299,7 +299,7 @@ void MenuWindow::render() {
 
     m_display->setCaption(text(m_menu.display()));
     m_display->setAccessibleValue(text(m_menu.display()));
-    m_display->setPointSize(m_menu.displaySize());
+    m_display->setPointSize(m_menu.displayCompact() ? 10 : 18);
     m_digitsKey->setCaption(text(m_menu.digitsCaption()));
     m_memoryPanel->setVisible(m_menu.panelsVisible());
     m_digitsKey->setVisible(m_menu.panelsVisible());
@@ -309,9 +309,11 @@ void MenuWindow::render() {
         button->setCaption(text(m_menu.memoryCaption(key)));
         button->setTextColor(m_menu.memoryLit(key) ? colours.amber : colours.keyText);
     }
+    static const std::array<QString, 4> symbols{QString(), QStringLiteral("+"), QStringLiteral("-"),
+                                                QStringLiteral("x")};
     for (int key = 1; key <= 3; ++key) {
         ZelFrame* button = m_operatorKeys[static_cast<std::size_t>(key)];
-        button->setCaption(text(m_menu.operatorCaption(key)));
+        button->setCaption(symbols[static_cast<std::size_t>(key)]);
         button->setTextColor(m_menu.operatorLit(key) ? colours.amber : colours.keyText);
     }
     m_divideKey->setTextColor(m_menu.operatorLit(4) || m_menu.operatorLit(5) ? colours.amber
@@ -348,20 +350,15 @@ void MenuWindow::renderRows() {
         const QColor colour = cell.input ? colours.input : colours.row;
         ZelFrame* value = m_values[static_cast<std::size_t>(row)];
         value->setCaption(text(cell.caption));
-        value->setPointSize(cell.fontSize);
+        value->setPointSize(cell.compact ? 9 : 12);
         value->setTextColor(colour);
         // A number too long for its cell is drawn in exponent form, after
         // the side or head/tail letter it may carry ("R 1.5E+20").
-        const std::string& caption = cell.caption;
-        const bool lettered = caption.size() > 2 && caption[1] == ' ' &&
-                              std::string_view("RLTH").find(caption[0]) != std::string_view::npos;
         const double v = textValue(cell.tag, symbols);
         ZelFrame::ShortForm shortForm;
         if (cell.held || v != 0) {
-            shortForm = [prefix = lettered ? caption.substr(0, 2) : std::string(),
-                         v = lettered ? std::fabs(v) : v, symbols](int digits) {
-                return text(prefix + exponentText(v, digits, symbols));
-            };
+            shortForm = [prefix = cell.prefix, v = cell.prefix.empty() ? v : std::fabs(v), symbols](
+                            int digits) { return text(prefix + exponentText(v, digits, symbols)); };
         }
         value->setShortForm(shortForm);
         ZelFrame* unit = m_units[static_cast<std::size_t>(row)];

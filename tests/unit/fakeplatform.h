@@ -176,8 +176,8 @@ struct Calculator : FakeMachine {
 };
 
 /// What the window stores or shows that is not a finite number ("row 3 tag
-/// inf"), or nothing when all is well; a caption font other than 9 or 12 points
-/// counts too. The display of a page that takes a report shows what was typed.
+/// inf"), or nothing when all is well. The display of a page that takes a report shows what was
+/// typed.
 inline std::string nonFinite(const Menu& menu) {
     auto bad = [](std::string text) {
         for (char& c : text) {
@@ -193,7 +193,7 @@ inline std::string nonFinite(const Menu& menu) {
     }
     for (int row = 1; row <= PageSheet::Rows; ++row) {
         const RowCell& cell = menu.row(row);
-        if (bad(cell.tag) || bad(cell.caption) || (cell.fontSize != 9 && cell.fontSize != 12)) {
+        if (bad(cell.tag) || bad(cell.caption)) {
             return "row " + std::to_string(row) + ": " + cell.tag + " | " + cell.caption;
         }
     }

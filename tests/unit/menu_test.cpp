@@ -136,8 +136,8 @@ TEST(RowRendering, TinyValuesRoundAndLongCaptionsAreSmall) {
     EXPECT_EQ(calc.caption(3), "0.00"); // a real 0.000001 still shows its rounding
     calc.enter(1, "123456");
     EXPECT_EQ(calc.caption(8), "123,456,000,000.00"); // 18 characters
-    EXPECT_EQ(calc.menu.row(8).fontSize, 9);
-    EXPECT_EQ(calc.menu.row(1).fontSize, 12);
+    EXPECT_TRUE(calc.menu.row(8).compact);
+    EXPECT_FALSE(calc.menu.row(1).compact);
 }
 
 // A page of the kind where a typed zero is a value: the converter doubles the

@@ -272,8 +272,8 @@ TEST(Snowtam, TakesEightCodeCharactersAndDrawsLongTextsSmall) {
     EXPECT_EQ(calc.ui.events, (std::vector<std::string>{"beep", "beep"}));
     calc.menu.Form_KeyUp(key::Enter);
     EXPECT_EQ(calc.caption(2), "Rime - Frost < 1mm");
-    EXPECT_EQ(calc.menu.row(2).fontSize, 9);
-    EXPECT_EQ(calc.menu.row(1).fontSize, 12);
+    EXPECT_TRUE(calc.menu.row(2).compact);
+    EXPECT_FALSE(calc.menu.row(1).compact);
     calc.menu.Form_KeyPress(key::Backspace);
     calc.menu.Form_KeyUp(key::Enter);
     EXPECT_EQ(calc.lastEvent(), "exclamation Snowtam: Snowtam must be 8 digits...");
