@@ -65,10 +65,18 @@ def main():
         pair("--convert weight lbs 165",
              [program, "--folder", folder, "--locale", "en_US", "--convert", "weight", "lbs", "165"],
              ["units", "-t", "165 lb", "kg"], "GNU units", runs, env)
+        # The yardstick's label is as large as the window: read off its picture.
+        ours = os.path.join(folder, "ours.png")
+        subprocess.run([program, "--folder", folder, "--script", empty, "--screenshot", ours],
+                       env=env, check=True)
+        with open(ours, "rb") as png:
+            header = png.read(24)  # the IHDR chunk: width and height, big-endian
+        width, height = int.from_bytes(header[16:20], "big"), int.from_bytes(header[20:24], "big")
         pair("window start to a saved first frame",
              [program, "--folder", folder, "--script", empty, "--screenshot",
               os.path.join(folder, "ours.png")],
-             [os.path.join(build, "zel_minimal_window"), os.path.join(folder, "theirs.png")],
+             [os.path.join(build, "zel_minimal_window"), os.path.join(folder, "theirs.png"),
+              str(width), str(height)],
              "one QLabel", runs, env)
 
 

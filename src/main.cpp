@@ -22,6 +22,10 @@ int main(int argc, char** argv) {
         std::cout << zel::usage();
         return 0;
     }
+    if (options.pages) {
+        std::cout << zel::pageList();
+        return 0;
+    }
     if (options.version) {
         std::cout << zel::versionText() << '\n';
         return 0;

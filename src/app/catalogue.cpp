@@ -10,8 +10,8 @@
 namespace zel {
 
 const PageCatalogue& pageCatalogue() {
-    static const PageCatalogue catalogue{unitPages(), flightPages(), snowtamPages(),
-                                         currencyPages()};
+    static const PageCatalogue catalogue{
+        {unitPages(), flightPages(), snowtamPages(), currencyPages()}, planningPages()};
     return catalogue;
 }
 

@@ -2,6 +2,8 @@
 // SPDX-FileCopyrightText: 2026 zelFLIGHTAB developers
 #include "app/menu.h"
 
+#include "page/solver.h"
+
 namespace zel {
 namespace {
 
@@ -123,7 +125,7 @@ void Menu::LabValue_Click(int index) {
     // a zero entry, or the row's own value, only selects the row.
     const bool differs = entry != 0 && entry != shown;
     if (differs || (m_table->zeroIsValue && m_pad.typed())) {
-        if (m_table->row(index).has(OutputOnly)) {
+        if (m_table->outputOnly(index)) {
             m_platform.ui.beep(); // results only
             return;
         }
@@ -140,7 +142,9 @@ void Menu::LabValue_Click(int index) {
 }
 
 bool Menu::convert(int& inputRow) {
-    Report report = m_table->convert(m_sheet, m_pad.inputValue(), inputRow);
+    Report report = m_table->hasFormulas()
+                        ? solver::solve(*m_table, m_sheet, m_pad.inputValue(), inputRow)
+                        : m_table->convert(m_sheet, m_pad.inputValue(), inputRow);
     if (const Faulted fault = m_sheet.takeFault(); fault && !report.fault) {
         // The calculation stopped at the fault: nothing it would have said after it counts.
         report = Report{.kind = Report::Kind::None, .text = {}, .fault = fault};

@@ -2,6 +2,8 @@
 // SPDX-FileCopyrightText: 2026 zelFLIGHTAB developers
 #include "app/options.h"
 
+#include "app/catalogue.h"
+
 #include <algorithm>
 
 namespace zel {
@@ -43,6 +45,8 @@ Options parseOptions(const std::vector<std::string>& arguments) {
             }
         } else if (argument == "--help" || argument == "-h") {
             options.help = true;
+        } else if (argument == "--pages") {
+            options.pages = true;
         } else if (argument == "--version") {
             options.version = true;
         } else if (options.console && !options.file && !argument.starts_with("--")) {
@@ -68,16 +72,47 @@ std::string versionText() {
     return std::string("zelFLIGHTAB ") + ZEL_VERSION;
 }
 
+std::string pageList() {
+    const PageCatalogue& pages = pageCatalogue();
+    std::string out;
+    for (int number = 1; number <= pages.count(); ++number) {
+        if (const PageTable* page = pages.find(number)) {
+            out += std::to_string(number) + '\t' + std::string(page->name) + '\n';
+        }
+    }
+    return out;
+}
+
 std::string usage() {
+    const PageCatalogue& pages = pageCatalogue();
+    // The pages, wrapped under the option they belong to.
+    std::string list = "                            Pages:";
+    std::size_t line = list.size();
+    for (int number = 1; number <= pages.count(); ++number) {
+        const PageTable* page = pages.find(number);
+        if (page == nullptr) {
+            continue;
+        }
+        const std::string item = " " + std::to_string(number) + " " + std::string(page->name) +
+                                 (number < pages.count() ? "," : "");
+        if (line + item.size() > 79) {
+            list += "\n                           ";
+            line = 27;
+        }
+        list += item;
+        line += item.size();
+    }
     return R"(Usage: zelflightab [OPTION]...
 A calculator for aircraft pilots: unit converters, fuel, wind and airspeed
-calculators, a SNOWTAM runway-state decoder and currency rates.
+calculators, planning pages, runway report decoders and currency rates.
 
   --convert PAGE ROW VALUE  convert VALUE given for ROW of PAGE, print the
-                            page's eight rows and exit. PAGE is a number 1-24
+                            page's eight rows and exit. PAGE is a number 1-)" +
+           std::to_string(pages.count()) + R"(
                             or a name (weight, "fuel uplift", "Mach - AS");
                             ROW is a number 1-8 or a unit (lbs, kt, °C);
                             VALUE is written the regional way (1,5 in Germany)
+)" + list + R"(
   --console [FILE]          run console commands from FILE (or standard input)
                             and print what the window shows
   --script FILE             run console commands against the window, then
@@ -87,6 +122,7 @@ calculators, a SNOWTAM runway-state decoder and currency rates.
   --locale NAME             regional number symbols of NAME (en_US, de_DE)
   --symbols DG              decimal symbol D and grouping symbol G, as ",."
   --folder DIR              keep the settings in DIR/Tech/zelFLIGHTAB.ini
+  --pages                   list the pages, a line each: number, tab, name
   --help                    print this help and exit
   --version                 print the version and exit
 

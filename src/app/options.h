@@ -22,13 +22,16 @@ struct Options {
     std::vector<std::string> convert;      ///< PAGE ROW VALUE: one conversion, printed
     bool help = false;
     bool version = false;
-    std::string error; ///< why the command line cannot be used
+    bool pages = false; ///< list the pages, a line each: number, tab, name
+    std::string error;  ///< why the command line cannot be used
 };
 
 Options parseOptions(const std::vector<std::string>& arguments);
 
 /// What --help prints.
 std::string usage();
+/// The pages of the menu, a line each: its number, a tab, its name.
+std::string pageList();
 /// What --version prints: "zelFLIGHTAB 0.1.0".
 std::string versionText();
 

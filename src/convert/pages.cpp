@@ -14,6 +14,7 @@ namespace {
 constexpr std::array<PageTable, 9> Pages{{
     {.number = 1,
      .name = "Weight", // base: metric ton
+     .icon = "weight",
      .rows = {{{"kilogram - kg", 1000},
                {"pound - lbs", 2205},
                {"metric ton - T", 1},
@@ -27,6 +28,7 @@ constexpr std::array<PageTable, 9> Pages{{
      .keyCaption = "F1"},
     {.number = 2,
      .name = "Fluid", // base: cubic meter
+     .icon = "fluid",
      .rows = {{{"liter - L", 1000},
                {"cubic meter - m3", 1},
                {"imp gallon - Imp", -0.00454609},
@@ -40,6 +42,7 @@ constexpr std::array<PageTable, 9> Pages{{
      .keyCaption = "F2"},
     {.number = 3,
      .name = "Surface", // base: square meter
+     .icon = "surface",
      .rows = {{{"square meter - m2", 1},
                {"are - a", -100},
                {"sq kilometer - km2", -1000000},
@@ -53,6 +56,7 @@ constexpr std::array<PageTable, 9> Pages{{
      .keyCaption = "F3"},
     {.number = 4,
      .name = "Speed", // base: kilometer per hour; rows 7 and 8 are the Beaufort scale
+     .icon = "speed",
      .rows = {{{"kilometer/hour - km/h", 1},
                {"knots - kt", -1.851999692},
                {"meter/second - m/s", 0.27777777778},
@@ -66,6 +70,7 @@ constexpr std::array<PageTable, 9> Pages{{
      .keyCaption = "F4"},
     {.number = 5,
      .name = "Distance", // base: kilometer
+     .icon = "distance",
      .rows = {{{"meter - m", 1000},
                {"nautical mile - nm", -1.851999692},
                {"kilometer - km", 1},
@@ -79,6 +84,7 @@ constexpr std::array<PageTable, 9> Pages{{
      .keyCaption = "F5"},
     {.number = 6,
      .name = "Angle",
+     .icon = "angle",
      .rows = {{{"degrees - °"},
                {"radians - rad"},
                {"minutes - '"},
@@ -90,12 +96,14 @@ constexpr std::array<PageTable, 9> Pages{{
      .keyCaption = "F6"},
     {.number = 7,
      .name = "Temperature",
+     .icon = "temperature",
      .rows = {{{"celsius - °C"}, {"fahrenheit - °F"}, {"kelvin - K"}, {"rankine - °R"}}},
      .convert = Convert_Temperature,
      .functionKey = 7,
      .keyCaption = "F7"},
     {.number = 8,
      .name = "Pressure", // base: kilopascal, which has no row of its own
+     .icon = "pressure",
      .rows = {{{"pascal - Pa", 1000},
                {"atmosphere - atm", -101.325},
                {"hectopascal - hPa", 10},
@@ -109,6 +117,7 @@ constexpr std::array<PageTable, 9> Pages{{
      .keyCaption = "F8"},
     {.number = 9,
      .name = "Power", // base: imperial horsepower; one unit of jet thrust K counts as 1560 HP
+     .icon = "power",
      .rows = {{{"imperial - HP", 1},
                {"metric - CV pk PS", 0.986320070619531},
                {"watt - W", 745.69987158227},

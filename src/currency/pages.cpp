@@ -29,6 +29,7 @@ namespace {
 constexpr std::array<PageTable, 1> Pages{{
     {.number = 18,
      .name = "Currency", // the factors and row 8 come from the rate store
+     .icon = "currency",
      .rows = {{{"Australian $ - AUD"},
                {"Canadian $ - CAD"},
                {"Euro - EUR"},

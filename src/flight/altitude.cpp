@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // SPDX-FileCopyrightText: 2026 zelFLIGHTAB developers
-#include "flight/planning.h"
-#include "flight/solver.h"
+#include "page/solver.h"
 
 #include <cmath>
 #include <limits>
@@ -42,9 +41,10 @@ double altimeter(int target, const std::array<double, 3>& v) {
                        : H0 * (1 - std::pow(qnh * std::pow(1 - a / H0, N) / P0, 1 / N));
 }
 
-/// 1.98 °C colder per 1000 ft: 15 - 0.0019812 x PA.
-double isa(int target, const std::array<double, 3>& v) {
-    return target == 1 ? 15 - 0.0019812 * v[0] : (15 - v[1]) / 0.0019812;
+/// 1.98 °C colder per 1000 ft: 15 - 0.0019812 x PA. The ISA temperature is
+/// only ever a result.
+double isa(int, const std::array<double, 3>& v) {
+    return 15 - 0.0019812 * v[0];
 }
 
 /// OAT = ISA temperature + deviation.
@@ -55,10 +55,7 @@ double deviation(int target, const std::array<double, 3>& v) {
 
 /// The standard altitude of the air's density: sigma = p/p0 x T0/T, and
 /// DA = H0 (1 - sigma^(1/(n-1))). It is only ever a result.
-double density(int target, const std::array<double, 3>& v) {
-    if (target != 2) {
-        return std::numeric_limits<double>::quiet_NaN();
-    }
+double density(int, const std::array<double, 3>& v) {
     const double sigma = pressureRatio(v[0]) * T0 / (v[1] + 273.15);
     return H0 * (1 - std::pow(sigma, 1 / (N - 1)));
 }
@@ -74,37 +71,65 @@ constexpr std::string_view BadAltitude = "Invalid altitude (range -2000 - 36000 
 constexpr std::string_view BadTemperature = "Invalid temperature (range -80 - 60 °C)";
 
 constexpr Relation Relations[] = {
-    {{Altitude, Qnh, PressureAltitude}, altimeter},
-    {{PressureAltitude, IsaTemperature, -1}, isa},
-    {{Oat, IsaTemperature, Deviation}, deviation},
-    {{PressureAltitude, Oat, DensityAltitude}, density},
+    {.quantities = {Altitude, Qnh, PressureAltitude}, .solve = altimeter},
+    {.quantities = {PressureAltitude, IsaTemperature, -1}, .solve = isa, .only = 1},
+    {.quantities = {Oat, IsaTemperature, Deviation}, .solve = deviation},
+    {.quantities = {PressureAltitude, Oat, DensityAltitude}, .solve = density, .only = 2},
 };
 
 // An empty QNH is the standard 1013.25 hPa; an empty altitude is the ground
 // at sea level, unless the pressure altitude was given.
 constexpr Default Defaults[] = {{Qnh, P0}, {Altitude, 0, PressureAltitude}};
 
-// One given counts from each group: altitude or pressure altitude, QNH in
-// either unit, OAT or deviation, the newest of each.
-constexpr Model Altitudes{
-    .rows = {{{Altitude, Sign::Any, nullptr, nullptr, 1, -2000, 36000, false, BadAltitude},
-              {Qnh, Sign::NotNegative, nullptr, nullptr, 2, 850, 1100, false,
-               "Invalid QNH (range 850 - 1100 hPa)"},
-              {Qnh, Sign::NotNegative, toInches, fromInches, 2, 25.10, 32.48, false,
-               "Invalid QNH (range 25.10 - 32.48 inHg)"},
-              {PressureAltitude, Sign::Any, nullptr, nullptr, 1, -2000, 36000, false, BadAltitude},
-              {Oat, Sign::Any, nullptr, nullptr, 3, -80, 60, false, BadTemperature},
-              {Deviation, Sign::Any, nullptr, nullptr, 3, -60, 60, false, BadTemperature},
-              {DensityAltitude},
-              {IsaTemperature}}},
-    .relations = Relations,
-    .defaults = Defaults,
-};
+constexpr Range AltitudeRange{-2000, 36000, false, BadAltitude};
+constexpr Range TemperatureRange{-80, 60, false, BadTemperature};
 
 } // namespace
 
-Report Convert_Altitude(PageSheet& page, double x, int& inputRow) {
-    return solve(Altitudes, page, x, inputRow);
-}
+// One given counts from each group: altitude or pressure altitude, QNH in
+// either unit, OAT or deviation, the newest of each.
+extern const PageTable AltitudePage{
+    .number = 19,
+    .name = "Altitude",
+    .icon = "altitude",
+    .rows = {{
+        {.unit = "Altitude - ft",
+         .quantity = Altitude,
+         .sign = Sign::Any,
+         .group = 1,
+         .range = AltitudeRange},
+        {.unit = "QNH - hPa",
+         .quantity = Qnh,
+         .sign = Sign::NotNegative,
+         .group = 2,
+         .range = {850, 1100, false, "Invalid QNH (range 850 - 1100 hPa)"}},
+        {.unit = "QNH - inHg",
+         .quantity = Qnh,
+         .sign = Sign::NotNegative,
+         .toRow = toInches,
+         .fromRow = fromInches,
+         .group = 2,
+         .range = {25.10, 32.48, false, "Invalid QNH (range 25.10 - 32.48 inHg)"}},
+        {.unit = "Pressure Altitude - ft",
+         .quantity = PressureAltitude,
+         .sign = Sign::Any,
+         .group = 1,
+         .range = AltitudeRange},
+        {.unit = "OAT - °C",
+         .quantity = Oat,
+         .sign = Sign::Any,
+         .group = 3,
+         .range = TemperatureRange},
+        {.unit = "ISA Deviation - °C",
+         .quantity = Deviation,
+         .sign = Sign::Any,
+         .group = 3,
+         .range = {-60, 60, false, BadTemperature}},
+        {.unit = "Density Altitude - ft", .quantity = DensityAltitude},
+        {.unit = "ISA Temperature - °C", .quantity = IsaTemperature},
+    }},
+    .formulas = {.relations = Relations, .defaults = Defaults},
+    .zeroIsValue = true,
+};
 
 } // namespace zel

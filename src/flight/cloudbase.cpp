@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // SPDX-FileCopyrightText: 2026 zelFLIGHTAB developers
-#include "flight/planning.h"
-#include "flight/solver.h"
+#include "page/solver.h"
 
 #include <cmath>
 #include <limits>
@@ -29,15 +28,13 @@ double saturation(double celsius) {
 }
 
 /// Relative humidity from temperature and dew point; only ever a result.
-double humidity(int target, const std::array<double, 3>& v) {
-    return target == 0 ? 100 * saturation(v[2]) / saturation(v[1])
-                       : std::numeric_limits<double>::quiet_NaN();
+double humidity(int, const std::array<double, 3>& v) {
+    return 100 * saturation(v[2]) / saturation(v[1]);
 }
 
 /// Base above sea level = elevation + base above ground; only ever a result.
-double amsl(int target, const std::array<double, 3>& v) {
-    return target == 0 ? v[1] + v[2] * FeetPerDegreeOfSpread
-                       : std::numeric_limits<double>::quiet_NaN();
+double amsl(int, const std::array<double, 3>& v) {
+    return v[1] + v[2] * FeetPerDegreeOfSpread;
 }
 
 double toFeet(double spread) {
@@ -68,31 +65,47 @@ std::optional<std::string_view> saturated(const Quantities& q) {
 }
 
 constexpr Relation Relations[] = {
-    {{Spread, Temperature, DewPoint}, spread},
-    {{Humidity, Temperature, DewPoint}, humidity},
-    {{BaseAmsl, Elevation, Spread}, amsl},
+    {.quantities = {Spread, Temperature, DewPoint}, .solve = spread},
+    {.quantities = {Humidity, Temperature, DewPoint}, .solve = humidity, .only = 0},
+    {.quantities = {BaseAmsl, Elevation, Spread}, .solve = amsl, .only = 0},
 };
 
-// The spread is one quantity with the base above ground in feet and metres.
-// Temperature, dew point and spread give each other; the elevation is its own.
-constexpr Model CloudBase{
-    .rows = {{{Temperature, Sign::Any, nullptr, nullptr, 0, -80, 60, false, BadTemperature},
-              {DewPoint, Sign::Any, nullptr, nullptr, 0, -80, 60, false, BadTemperature},
-              {Spread, Sign::NotNegative},
-              {Spread, Sign::NotNegative, toFeet, fromFeet},
-              {Spread, Sign::NotNegative, toMetres, fromMetres},
-              {Humidity},
-              {Elevation, Sign::Any},
-              {BaseAmsl}}},
-    .relations = Relations,
-    .freedom = 3,
-    .check = saturated,
-};
+constexpr Range TemperatureRange{-80, 60, false, BadTemperature};
 
 } // namespace
 
-Report Convert_CloudBase(PageSheet& page, double x, int& inputRow) {
-    return solve(CloudBase, page, x, inputRow);
-}
+// The spread is one quantity with the base above ground in feet and metres.
+// Temperature, dew point and spread give each other; the elevation is its own.
+extern const PageTable CloudBasePage{
+    .number = 23,
+    .name = "Cloud Base",
+    .icon = "cloudBase",
+    .rows = {{
+        {.unit = "Temperature - °C",
+         .quantity = Temperature,
+         .sign = Sign::Any,
+         .range = TemperatureRange},
+        {.unit = "Dew Point - °C",
+         .quantity = DewPoint,
+         .sign = Sign::Any,
+         .range = TemperatureRange},
+        {.unit = "Spread - °C", .quantity = Spread, .sign = Sign::NotNegative},
+        {.unit = "Cloud Base - ft AGL",
+         .quantity = Spread,
+         .sign = Sign::NotNegative,
+         .toRow = toFeet,
+         .fromRow = fromFeet},
+        {.unit = "Cloud Base - m AGL",
+         .quantity = Spread,
+         .sign = Sign::NotNegative,
+         .toRow = toMetres,
+         .fromRow = fromMetres},
+        {.unit = "Rel. Humidity - %", .quantity = Humidity},
+        {.unit = "Elevation - ft", .quantity = Elevation, .sign = Sign::Any},
+        {.unit = "Cloud Base - ft AMSL", .quantity = BaseAmsl},
+    }},
+    .formulas = {.relations = Relations, .freedom = 3, .check = saturated},
+    .zeroIsValue = true,
+};
 
 } // namespace zel

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // SPDX-FileCopyrightText: 2026 zelFLIGHTAB developers
-#include "flight/planning.h"
-#include "flight/solver.h"
+#include "page/solver.h"
 
 #include <cmath>
 #include <numbers>
@@ -46,32 +45,36 @@ std::optional<std::string_view> steep(const Quantities& q) {
 }
 
 constexpr Relation Relations[] = {
-    {{Height, Gradient, Distance}, product},
+    {.quantities = {Height, Gradient, Distance}, .solve = product},
     // Vertical speed = gradient x ground speed / 60 (ft/min from ft/nm at kt).
-    {{VerticalSpeed, Gradient, GroundSpeed}, productPerSixty},
-    {{Minutes, Distance, GroundSpeed}, minutes},
-    {{Height, VerticalSpeed, Minutes}, product},
-};
-
-// The path is one quantity, shown as an angle, a gradient and a percentage.
-constexpr Model Descent{
-    .rows = {{{Height},
-              {Distance},
-              {GroundSpeed},
-              {Minutes},
-              {VerticalSpeed},
-              {Gradient, Sign::Positive, toAngle, fromAngle, 0, 0, 45, true, BadAngle},
-              {Gradient},
-              {Gradient, Sign::Positive, toPercent, fromPercent}}},
-    .relations = Relations,
-    .freedom = 3,
-    .check = steep,
+    {.quantities = {VerticalSpeed, Gradient, GroundSpeed}, .solve = productPerSixty},
+    {.quantities = {Minutes, Distance, GroundSpeed}, .solve = minutes},
+    {.quantities = {Height, VerticalSpeed, Minutes}, .solve = product},
 };
 
 } // namespace
 
-Report Convert_Descent(PageSheet& page, double x, int& inputRow) {
-    return solve(Descent, page, x, inputRow);
-}
+// The path is one quantity, shown as an angle, a gradient and a percentage.
+extern const PageTable DescentPage{
+    .number = 20,
+    .name = "Descent",
+    .icon = "descent",
+    .rows = {{
+        {.unit = "Altitude Change - ft", .quantity = Height},
+        {.unit = "Distance - nm", .quantity = Distance},
+        {.unit = "Ground Speed - kt", .quantity = GroundSpeed},
+        {.unit = "Time - min", .quantity = Minutes},
+        {.unit = "Vertical Speed - ft/min", .quantity = VerticalSpeed},
+        {.unit = "Path Angle - °",
+         .quantity = Gradient,
+         .toRow = toAngle,
+         .fromRow = fromAngle,
+         .range = {0, 45, true, BadAngle}},
+        {.unit = "Gradient - ft/nm", .quantity = Gradient},
+        {.unit = "Gradient - %", .quantity = Gradient, .toRow = toPercent, .fromRow = fromPercent},
+    }},
+    .formulas = {.relations = Relations, .freedom = 3, .check = steep},
+    .zeroIsValue = true,
+};
 
 } // namespace zel

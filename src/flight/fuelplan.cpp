@@ -1,9 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // SPDX-FileCopyrightText: 2026 zelFLIGHTAB developers
-#include "flight/planning.h"
-#include "flight/solver.h"
-
-#include <limits>
+#include "page/solver.h"
 
 namespace zel {
 namespace {
@@ -23,36 +20,38 @@ enum Quantity {
 
 /// Required = trip fuel + reserve fuel. The fuel required is only ever a
 /// result (typing it beeps), so the sum is never solved backwards.
-double sum(int target, const std::array<double, 3>& v) {
-    return target == 0 ? v[1] + v[2] : std::numeric_limits<double>::quiet_NaN();
+double sum(int, const std::array<double, 3>& v) {
+    return v[1] + v[2];
 }
 
 constexpr Relation Relations[] = {
-    {{Distance, GroundSpeed, Hours}, product},
-    {{TripFuel, Flow, Hours}, product},
-    {{ReserveFuel, Flow, ReserveMinutes}, productPerSixty}, // flow x minutes / 60
-    {{Required, TripFuel, ReserveFuel}, sum},
-};
-
-// The fuel rows are in whatever unit the flow is in. Only the reserve may be
-// 0 (no reserve planned); every other zero is refused.
-constexpr Model FuelPlan{
-    .rows = {{{Distance},
-              {GroundSpeed},
-              {Hours},
-              {Flow},
-              {TripFuel},
-              {ReserveMinutes, Sign::NotNegative},
-              {ReserveFuel},
-              {Required}}},
-    .relations = Relations,
-    .freedom = 4,
+    {.quantities = {Distance, GroundSpeed, Hours}, .solve = product},
+    {.quantities = {TripFuel, Flow, Hours}, .solve = product},
+    // Flow x minutes / 60.
+    {.quantities = {ReserveFuel, Flow, ReserveMinutes}, .solve = productPerSixty},
+    {.quantities = {Required, TripFuel, ReserveFuel}, .solve = sum, .only = 0},
 };
 
 } // namespace
 
-Report Convert_FuelPlan(PageSheet& page, double x, int& inputRow) {
-    return solve(FuelPlan, page, x, inputRow);
-}
+// The fuel rows are in whatever unit the flow is in. Only the reserve may be
+// 0 (no reserve planned); every other zero is refused.
+extern const PageTable FuelPlanPage{
+    .number = 22,
+    .name = "Fuel Plan",
+    .icon = "fuelPlan",
+    .rows = {{
+        {.unit = "Distance - nm", .quantity = Distance},
+        {.unit = "Ground Speed - kt", .quantity = GroundSpeed},
+        {.unit = "Flight Time - h:mm", .form = Form::HoursMinutes, .quantity = Hours},
+        {.unit = "Fuel Flow - per hr", .quantity = Flow},
+        {.unit = "Trip Fuel", .quantity = TripFuel},
+        {.unit = "Reserve - min", .quantity = ReserveMinutes, .sign = Sign::NotNegative},
+        {.unit = "Reserve Fuel", .quantity = ReserveFuel},
+        {.unit = "Fuel Required", .quantity = Required},
+    }},
+    .formulas = {.relations = Relations, .freedom = 4},
+    .zeroIsValue = true,
+};
 
 } // namespace zel

@@ -5,7 +5,6 @@
 #include "flight/airspeed.h"
 #include "flight/fuel.h"
 #include "flight/navigation.h"
-#include "flight/planning.h"
 
 #include <array>
 
@@ -15,9 +14,10 @@ namespace {
 // On the navigation pages -999 stands for a value nobody knows yet.
 constexpr unsigned Nav = UnknownEmpty;
 
-constexpr std::array<PageTable, 12> Pages{{
+constexpr std::array<PageTable, 7> Pages{{
     {.number = 10,
      .name = "Fuel Uplift",
+     .icon = "fuelUplift",
      .rows = {{{"Remaining Fuel - kg"},
                {"Remaining Fuel - lbs"},
                {"Fuel Uplift - L"},
@@ -31,6 +31,7 @@ constexpr std::array<PageTable, 12> Pages{{
      .keyCaption = "F10"},
     {.number = 11,
      .name = "Endurance",
+     .icon = "endurance",
      .rows = {{{"Fuel Quantity - kg"},
                {"Fuel Flow - kg/hr"},
                {"Fuel Quantity - L"},
@@ -42,6 +43,7 @@ constexpr std::array<PageTable, 12> Pages{{
      .convert = Convert_Endurance},
     {.number = 12,
      .name = "Fuel Range",
+     .icon = "fuelRange",
      .rows = {{{"Fuel Quantity - kg"},
                {"Fuel Flow - kg/hr"},
                {"Fuel Quantity - L"},
@@ -53,6 +55,7 @@ constexpr std::array<PageTable, 12> Pages{{
      .convert = Convert_Range},
     {.number = 13,
      .name = "Mach - AS",
+     .icon = "machAs",
      .rows = {{{"Altitude - feet"},
                {"Mach - M"},
                {"(OAT) SAT - °C"},
@@ -64,6 +67,7 @@ constexpr std::array<PageTable, 12> Pages{{
      .convert = Convert_MachAS},
     {.number = 15,
      .name = "Track Time",
+     .icon = "trackTime",
      .rows = {{row("Distance - km", Form::Number, Nav), row("Distance - nm", Form::Number, Nav),
                row("Elapse Time - h:mm", Form::HoursMinutes, Nav),
                row("Ground Speed - kt", Form::Number, Nav),
@@ -73,6 +77,7 @@ constexpr std::array<PageTable, 12> Pages{{
      .convert = Convert_TrackTime},
     {.number = 16,
      .name = "Wind",
+     .icon = "wind",
      .rows = {{row("Heading - °", Form::Direction, Nav), row("TAS - kt", Form::Number, Nav),
                row("Course - °", Form::Direction, Nav), row("Ground Speed - kt", Form::Number, Nav),
                row("Wind Direction - °", Form::Direction, Nav),
@@ -81,6 +86,7 @@ constexpr std::array<PageTable, 12> Pages{{
      .convert = Convert_WindTriangle},
     {.number = 17,
      .name = "Wind Comp",
+     .icon = "windComp",
      .rows = {{row("Wind Direction - °", Form::Direction, Nav),
                row("Wind Velocity - kt", Form::Number, Nav),
                row("RWY heading - °", Form::Direction, Nav),
@@ -91,72 +97,21 @@ constexpr std::array<PageTable, 12> Pages{{
                row("Cross Wind - kt", Form::Side, Nav)}},
      .convert = Convert_WindComp,
      .functionKey = 12},
-    {.number = 19,
-     .name = "Altitude",
-     .rows = {{{"Altitude - ft"},
-               {"QNH - hPa"},
-               {"QNH - inHg"},
-               {"Pressure Altitude - ft"},
-               {"OAT - °C"},
-               {"ISA Deviation - °C"},
-               row("Density Altitude - ft", Form::Number, OutputOnly),
-               row("ISA Temperature - °C", Form::Number, OutputOnly)}},
-     .convert = Convert_Altitude,
-     .zeroIsValue = true},
-    {.number = 20,
-     .name = "Descent",
-     .rows = {{{"Altitude Change - ft"},
-               {"Distance - nm"},
-               {"Ground Speed - kt"},
-               {"Time - min"},
-               {"Vertical Speed - ft/min"},
-               {"Path Angle - °"},
-               {"Gradient - ft/nm"},
-               {"Gradient - %"}}},
-     .convert = Convert_Descent,
-     .zeroIsValue = true},
-    {.number = 21,
-     .name = "Turn",
-     .rows = {{{"TAS - kt"},
-               {"Bank Angle - °"},
-               {"Rate of Turn - °/s"},
-               {"Radius - nm"},
-               {"Radius - m"},
-               {"Time for 360° - s"},
-               {"Load Factor - g"},
-               {"Stall Speed Increase - %"}}},
-     .convert = Convert_Turn,
-     .zeroIsValue = true},
-    {.number = 22,
-     .name = "Fuel Plan",
-     .rows = {{{"Distance - nm"},
-               {"Ground Speed - kt"},
-               row("Flight Time - h:mm", Form::HoursMinutes),
-               {"Fuel Flow - per hr"},
-               {"Trip Fuel"},
-               {"Reserve - min"},
-               {"Reserve Fuel"},
-               row("Fuel Required", Form::Number, OutputOnly)}},
-     .convert = Convert_FuelPlan,
-     .zeroIsValue = true},
-    {.number = 23,
-     .name = "Cloud Base",
-     .rows = {{{"Temperature - °C"},
-               {"Dew Point - °C"},
-               {"Spread - °C"},
-               {"Cloud Base - ft AGL"},
-               {"Cloud Base - m AGL"},
-               row("Rel. Humidity - %", Form::Number, OutputOnly),
-               {"Elevation - ft"},
-               row("Cloud Base - ft AMSL", Form::Number, OutputOnly)}},
-     .convert = Convert_CloudBase,
-     .zeroIsValue = true},
 }};
 
 } // namespace
 
+// Each planning page is declared beside its formulas.
+extern const PageTable AltitudePage, DescentPage, TurnPage, FuelPlanPage, CloudBasePage;
+
 std::span<const PageTable> flightPages() {
     return Pages;
+}
+
+std::span<const PageTable* const> planningPages() {
+    static constexpr std::array<const PageTable*, 5> Planning{
+        &AltitudePage, &DescentPage, &TurnPage, &FuelPlanPage, &CloudBasePage};
+    return Planning;
 }
 
 } // namespace zel

@@ -9,6 +9,9 @@
 namespace zel {
 
 /// The flight calculator pages: fuel, airspeed and navigation.
+/// The fuel, airspeed and navigation pages.
 std::span<const PageTable> flightPages();
+/// The planning pages, each declared with its formulas in a file of its own.
+std::span<const PageTable* const> planningPages();
 
 } // namespace zel

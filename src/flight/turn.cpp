@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // SPDX-FileCopyrightText: 2026 zelFLIGHTAB developers
-#include "flight/planning.h"
-#include "flight/solver.h"
+#include "page/solver.h"
 
 #include <cmath>
 #include <numbers>
@@ -106,32 +105,39 @@ std::optional<std::string_view> level(const Quantities& q) {
 }
 
 constexpr Relation Relations[] = {
-    {{Tas, Bank, Rate}, rate},
-    {{Tas, Rate, Radius}, radiusOfRate},
-    {{Tas, Bank, Radius}, radiusOfBank},
-};
-
-// The bank is one quantity with the load factor and the stall speed increase;
-// so is the rate with the time for a full circle, and the radius in either unit.
-constexpr Model Turn{
-    .rows = {{{Tas},
-              {Bank, Sign::Positive, nullptr, nullptr, 0, 0, 90, true, BadBank},
-              {Rate},
-              {Radius},
-              {Radius, Sign::Positive, toMetres, fromMetres},
-              {Rate, Sign::Positive, fullCircle, fullCircle},
-              {Bank, Sign::Positive, toLoad, fromLoad, 0, 0, 1e300, false, BadBank},
-              {Bank, Sign::Positive, toStallIncrease, fromStallIncrease, 0, 0, 1e300, false,
-               BadBank}}},
-    .relations = Relations,
-    .freedom = 2,
-    .check = level,
+    {.quantities = {Tas, Bank, Rate}, .solve = rate},
+    {.quantities = {Tas, Rate, Radius}, .solve = radiusOfRate},
+    {.quantities = {Tas, Bank, Radius}, .solve = radiusOfBank},
 };
 
 } // namespace
 
-Report Convert_Turn(PageSheet& page, double x, int& inputRow) {
-    return solve(Turn, page, x, inputRow);
-}
+// The bank is one quantity with the load factor and the stall speed increase;
+// so is the rate with the time for a full circle, and the radius in either unit.
+extern const PageTable TurnPage{
+    .number = 21,
+    .name = "Turn",
+    .icon = "turn",
+    .rows = {{
+        {.unit = "TAS - kt", .quantity = Tas},
+        {.unit = "Bank Angle - °", .quantity = Bank, .range = {0, 90, true, BadBank}},
+        {.unit = "Rate of Turn - °/s", .quantity = Rate},
+        {.unit = "Radius - nm", .quantity = Radius},
+        {.unit = "Radius - m", .quantity = Radius, .toRow = toMetres, .fromRow = fromMetres},
+        {.unit = "Time for 360° - s", .quantity = Rate, .toRow = fullCircle, .fromRow = fullCircle},
+        {.unit = "Load Factor - g",
+         .quantity = Bank,
+         .toRow = toLoad,
+         .fromRow = fromLoad,
+         .range = {0, 1e300, false, BadBank}},
+        {.unit = "Stall Speed Increase - %",
+         .quantity = Bank,
+         .toRow = toStallIncrease,
+         .fromRow = fromStallIncrease,
+         .range = {0, 1e300, false, BadBank}},
+    }},
+    .formulas = {.relations = Relations, .freedom = 2, .check = level},
+    .zeroIsValue = true,
+};
 
 } // namespace zel

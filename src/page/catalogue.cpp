@@ -6,18 +6,25 @@
 
 namespace zel {
 
-PageCatalogue::PageCatalogue(std::initializer_list<std::span<const PageTable>> groups) {
+PageCatalogue::PageCatalogue(std::initializer_list<std::span<const PageTable>> groups,
+                             std::span<const PageTable* const> singles) {
+    auto add = [this](const PageTable& table) {
+        const auto at = static_cast<std::size_t>(table.number);
+        if (m_pages.size() <= at) {
+            m_pages.resize(at + 1, nullptr);
+        }
+        if (table.number < 1 || m_pages[at] != nullptr) {
+            throw std::logic_error("page number taken twice: " + std::string(table.name));
+        }
+        m_pages[at] = &table;
+    };
     for (const auto& group : groups) {
         for (const PageTable& table : group) {
-            const auto at = static_cast<std::size_t>(table.number);
-            if (m_pages.size() <= at) {
-                m_pages.resize(at + 1, nullptr);
-            }
-            if (table.number < 1 || m_pages[at] != nullptr) {
-                throw std::logic_error("page number taken twice: " + std::string(table.name));
-            }
-            m_pages[at] = &table;
+            add(table);
         }
+    }
+    for (const PageTable* table : singles) {
+        add(*table);
     }
     if (m_pages.empty()) {
         m_pages.push_back(nullptr);

@@ -14,8 +14,10 @@ namespace zel {
 /// keeps beside its converters.
 class PageCatalogue {
   public:
-    /// Throws std::logic_error when two tables claim one number.
-    PageCatalogue(std::initializer_list<std::span<const PageTable>> groups);
+    /// The tables of `groups`, and the pages of `singles` (each declared on its
+    /// own). Throws std::logic_error when two tables claim one number.
+    PageCatalogue(std::initializer_list<std::span<const PageTable>> groups,
+                  std::span<const PageTable* const> singles = {});
 
     /// The highest page number; the menu has room for this many buttons.
     int count() const { return static_cast<int>(m_pages.size()) - 1; }

@@ -12,4 +12,19 @@ double multiplier(double factor) {
     return factor > 0 ? factor : 1 / -factor;
 }
 
+bool PageTable::outputOnly(int number) const {
+    const RowSpec& shape = row(number);
+    if (shape.has(OutputOnly)) {
+        return true;
+    }
+    // What a one-way formula gives is only ever a result.
+    for (const Relation& relation : formulas.relations) {
+        if (relation.only >= 0 && shape.quantity >= 0 &&
+            relation.quantities.at(static_cast<std::size_t>(relation.only)) == shape.quantity) {
+            return true;
+        }
+    }
+    return false;
+}
+
 } // namespace zel

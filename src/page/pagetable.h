@@ -8,6 +8,7 @@
 #include <array>
 #include <cstdint>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -43,17 +44,73 @@ enum RowFlag : unsigned {
     OutputOnly = 2,   ///< a typed value cannot be put into it: the click beeps
 };
 
+/// Which typed values a row of a page of formulas takes; any other beeps.
+enum class Sign : std::uint8_t { Positive, NotNegative, Any };
+
+/// The values a row of a page of formulas takes: a typed value outside
+/// [low, high] (high itself excluded when `openHigh`) gets `message` and
+/// changes nothing.
+struct Range {
+    double low = -1e300;
+    double high = 1e300;
+    bool openHigh = false;
+    std::string_view message{};
+};
+
 /// One row of a page table: the unit caption, the factor and how it is drawn.
 /// A factor f > 0 is how many row units make one base unit of the page; f < 0
 /// says one row unit is |f| base units (so a published unit size is written
 /// exactly); 0 means the row is not converted by factor.
+///
+/// On a page whose rows are tied by formulas, a row shows one of the page's
+/// quantities, through `toRow` and `fromRow` where its unit is not the
+/// quantity's own (a gradient shown as an angle).
 struct RowSpec {
-    std::string_view unit; ///< empty: the row does not exist on the page
+    std::string_view unit{}; ///< empty: the row does not exist on the page
     double factor = 0;
     Form form = Form::Number;
     unsigned flags = 0;
+    int quantity = -1; ///< -1: the row shows none
+    Sign sign = Sign::Positive;
+    double (*toRow)(double) = nullptr; ///< quantity to row; nothing: the same
+    double (*fromRow)(double) = nullptr;
+    /// Rows of one group give at most one value: the newest typed (for pages
+    /// that take one given per group instead of counting degrees of freedom).
+    int group = 0;
+    Range range{};
 
     bool has(RowFlag flag) const { return (flags & flag) != 0; }
+};
+
+/// Up to three quantities of a page tied by one formula.
+struct Relation {
+    std::array<int, 3> quantities{-1, -1, -1}; ///< -1 where the relation has fewer
+    /// The value of quantities[target] from the other values; NaN when the
+    /// formula gives none (a division by zero, a root of a negative number).
+    double (*solve)(int target, const std::array<double, 3>& values) = nullptr;
+    /// -1: the formula gives any one of its quantities from the others.
+    /// Otherwise the index of the one quantity it gives, which is then only
+    /// ever a result: a row that shows it takes no typed value.
+    int only = -1;
+};
+
+/// A value a quantity takes while nothing gives it, unless `unlessKnown` is.
+struct Default {
+    int quantity = -1;
+    double value = 0;
+    int unlessKnown = -1;
+};
+
+using Quantities = std::array<double, 8>; ///< NaN: not known
+
+/// A page whose rows are tied by formulas: its relations, and how many of the
+/// newest typed rows count (the degrees of freedom), when its rows are not grouped.
+struct Formulas {
+    std::span<const Relation> relations{};
+    int freedom = 0;
+    std::span<const Default> defaults{};
+    /// A warning when the solved quantities cannot be: nothing is changed.
+    std::optional<std::string_view> (*check)(const Quantities& q) = nullptr;
 };
 
 /// A row that is not converted by factor, drawn in `form`.
@@ -88,9 +145,14 @@ struct TextEntry {
 struct PageTable {
     int number = 0; ///< 1.. : its place in the menu, three to a line
     std::string_view name{};
+    /// The page's icon: ui/icons/<icon>.svg, drawn on its menu button and title.
+    std::string_view icon{};
     std::array<RowSpec, PageSheet::Rows> rows{};
     /// A number page: a row click puts the typed value into the row and runs this.
     NumberConverter convert = nullptr;
+    /// A page of formulas: a row click solves them with the typed value as the
+    /// newest given (and `convert` is not used).
+    Formulas formulas{};
     /// A text page: the entry is a report of letters and digits, decoded by a
     /// row click or Enter; the calculator's keys are hidden.
     TextDecoder decode = nullptr;
@@ -106,6 +168,9 @@ struct PageTable {
 
     const RowSpec& row(int row) const { return rows.at(static_cast<std::size_t>(row - 1)); }
     bool isText() const { return decode != nullptr; }
+    bool hasFormulas() const { return !formulas.relations.empty(); }
+    /// A row that only shows results: a typed value put into it beeps.
+    bool outputOnly(int row) const;
 };
 
 } // namespace zel

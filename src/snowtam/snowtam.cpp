@@ -164,6 +164,7 @@ char32_t reportCharacter(char32_t c) {
 constexpr std::array<PageTable, 2> Pages{{
     {.number = 14,
      .name = "Snowtam",
+     .icon = "snowtam",
      .rows = {{row("Runway", Form::Text),
                row("Type of Deposit", Form::Text),
                {},
@@ -178,6 +179,7 @@ constexpr std::array<PageTable, 2> Pages{{
      .keyCaption = "F11"},
     {.number = 24,
      .name = "RWY Condition",
+     .icon = "rwyCondition",
      .rows = {{row("Runway", Form::Text), row("Assessed - UTC", Form::Text),
                row("Touchdown", Form::Text), row("Midpoint", Form::Text),
                row("Rollout", Form::Text), row("Coverage - %", Form::Text),

@@ -25,14 +25,7 @@ namespace zel {
 namespace {
 
 constexpr int WindowWidth = MenuWindow::DesignWidth;
-constexpr int WindowHeight = MenuWindow::DesignHeight;
 constexpr int RowHeight = 45;
-
-constexpr std::array<const char*, 25> IconNames{
-    "app",         "weight",    "fluid",     "surface",     "speed",     "distance",  "angle",
-    "temperature", "pressure",  "power",     "fuelUplift",  "endurance", "fuelRange", "machAs",
-    "snowtam",     "trackTime", "wind",      "windComp",    "currency",  "altitude",  "descent",
-    "turn",        "fuelPlan",  "cloudBase", "rwyCondition"};
 
 QString text(const std::string& s) {
     return QString::fromStdString(s);
@@ -44,8 +37,8 @@ QString text(std::string_view s) {
 
 } // namespace
 
-QPixmap pageIcon(int page, int size, const QColor& color, qreal devicePixelRatio) {
-    const QString name = QString::fromLatin1(IconNames.at(static_cast<std::size_t>(page)));
+QPixmap pageIcon(std::string_view icon, int size, const QColor& color, qreal devicePixelRatio) {
+    const QString name = text(icon);
     const int side = qRound(size * devicePixelRatio);
     // The sizes the window opens with were drawn at build time, as masks; any
     // other is drawn from the SVG, so that the icon is sharp at every zoom.
@@ -83,14 +76,16 @@ ZelFrame* MenuWindow::frame(Look look, QWidget* parent, QRect geometry, const QS
 
 MenuWindow::MenuWindow(Menu& menu, QtInteraction* interaction, const QString& memoryFile,
                        bool remember, QWidget* parent)
-    : QWidget(parent), m_menu(menu), m_interaction(interaction), m_memoryFile(memoryFile),
+    : QWidget(parent), m_menu(menu), m_interaction(interaction),
+      m_designHeight(designHeight(menu.pages())),
+      m_pageButtons(static_cast<std::size_t>(menu.pages().count() + 1)), m_memoryFile(memoryFile),
       m_remember(remember) {
     loadIcons();
     installFrameAccessibility();
     setWindowTitle(QStringLiteral("zelFLIGHTAB"));
     setAccessibleName(QStringLiteral("zelFLIGHTAB"));
     setFocusPolicy(Qt::StrongFocus);
-    frame(Look::Background, this, QRect(0, 0, WindowWidth, WindowHeight))
+    frame(Look::Background, this, QRect(0, 0, WindowWidth, m_designHeight))
         ->setAccessibleName(QStringLiteral("zelFLIGHTAB"));
     m_titleBar = frame(Look::TitleBar, this, QRect(0, 0, WindowWidth, 36));
     m_titleBar->setAccessibleName(QStringLiteral("Title bar"));
@@ -128,8 +123,18 @@ MenuWindow::MenuWindow(Menu& menu, QtInteraction* interaction, const QString& me
 
 MenuWindow::~MenuWindow() = default;
 
+int MenuWindow::designHeight(const PageCatalogue& pages) {
+    // The title bar and a margin, then a line of three buttons every 61 pixels.
+    return 47 + (pages.count() + 2) / 3 * 61;
+}
+
+std::string_view MenuWindow::iconName(int page) const {
+    const PageTable* table = m_menu.pages().find(page);
+    return table != nullptr ? table->icon : AppIcon;
+}
+
 void MenuWindow::buildMenuFace() {
-    // Three columns by eight lines, in page order.
+    // Three columns, as many lines as the pages need, in page order.
     const PageCatalogue& pages = m_menu.pages();
     for (int page = 1; page <= pages.count(); ++page) {
         const PageTable* table = pages.find(page);
@@ -155,7 +160,7 @@ void MenuWindow::buildMenuFace() {
 }
 
 void MenuWindow::buildPageFace() {
-    m_pageFace = frame(Look::Background, this, QRect(0, 36, WindowWidth, WindowHeight - 36));
+    m_pageFace = frame(Look::Background, this, QRect(0, 36, WindowWidth, m_designHeight - 36));
     m_pageFace->setAccessibleName(QStringLiteral("Page"));
     auto* calculator = frame(Look::Panel, m_pageFace, QRect(11, 10, 273, 89));
     calculator->setAccessibleName(QStringLiteral("Calculator"));
@@ -291,8 +296,8 @@ void MenuWindow::render() {
     if (m_iconRatio != devicePixelRatioF()) {
         refreshIcons(); // drawn anew for the screen's pixel ratio
     } else if (iconPage != m_shownIconPage) {
-        m_titleIcon->setIcon(
-            pageIcon(iconPage, qRound(24 * m_zoom), textColours(m_night).row, m_iconRatio));
+        m_titleIcon->setIcon(pageIcon(iconName(iconPage), qRound(24 * m_zoom),
+                                      textColours(m_night).row, m_iconRatio));
         m_shownIconPage = iconPage;
     }
     m_title->setCaption(page ? text(m_menu.title()) : QStringLiteral("zelFLIGHTAB"));
@@ -393,7 +398,7 @@ bool MenuWindow::event(QEvent* e) {
         setFocus(Qt::OtherFocusReason); // no control has the focus until Tab gives it one
         QIcon icon;                     // for the window manager and the task bar
         for (int size : {16, 32, 64, 128}) {
-            icon.addPixmap(pageIcon(0, size, textColours(false).row, 1));
+            icon.addPixmap(pageIcon(AppIcon, size, textColours(false).row, 1));
         }
         setWindowIcon(icon);
         act([this] { m_menu.Form_Activate(); });

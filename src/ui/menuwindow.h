@@ -47,10 +47,10 @@ class MenuWindow : public QWidget {
     /// A short flash of the display, seen where the bell is muted.
     void flash();
 
-    /// The window's size at 100 %: 295 pixels wide as the original 4420 twips,
-    /// and eight lines of page buttons high.
+    /// The window's width at 100 %: 295 pixels, as the original 4420 twips.
     static constexpr int DesignWidth = 295;
-    static constexpr int DesignHeight = 535;
+    /// The window's height at 100 %: as many lines of page buttons as `pages` fill.
+    static int designHeight(const PageCatalogue& pages);
     /// The zoom steps, 100 % to 250 %.
     static constexpr std::array<qreal, 6> Zooms{1.0, 1.25, 1.5, 1.75, 2.0, 2.5};
     qreal zoom() const { return m_zoom; }
@@ -101,6 +101,8 @@ class MenuWindow : public QWidget {
     ZelFrame* frame(Look look, QWidget* parent, QRect geometry, const QString& caption = {});
     /// Runs one event handler of Menu, then draws the result.
     void act(const std::function<void()>& handler);
+    /// The icon of a page, or the program's own for 0.
+    std::string_view iconName(int page) const;
     /// The controls Tab moves over on the face shown, in order.
     std::vector<ZelFrame*> focusChain() const;
     /// Moves the focus `step` places along the chain (or the menu grid).
@@ -122,6 +124,8 @@ class MenuWindow : public QWidget {
 
     Menu& m_menu;
     QtInteraction* m_interaction;
+    int m_designHeight;
+    std::vector<ZelFrame*> m_pageButtons; ///< by page number; 0 unused
     QString m_memoryFile;
     bool m_remember = true;
     ZelFrame* m_titleBar = nullptr;
@@ -136,7 +140,6 @@ class MenuWindow : public QWidget {
     ZelFrame* m_operatorPanel = nullptr;
     ZelFrame* m_rowsPanel = nullptr;
     ZelFrame* m_divideKey = nullptr;
-    std::array<ZelFrame*, 25> m_pageButtons{};
     std::array<ZelFrame*, 9> m_values{};
     std::array<ZelFrame*, 9> m_units{};
     std::array<ZelFrame*, 9> m_bands{};
@@ -164,6 +167,8 @@ class MenuWindow : public QWidget {
 };
 
 /// The icon of a page (0: the application), drawn in one colour at a size.
-QPixmap pageIcon(int page, int size, const QColor& color, qreal devicePixelRatio);
+QPixmap pageIcon(std::string_view icon, int size, const QColor& color, qreal devicePixelRatio);
+/// The program's own icon, beside the pages' icons.
+inline constexpr std::string_view AppIcon = "app";
 
 } // namespace zel

@@ -59,7 +59,7 @@ void MenuWindow::restyle() {
     if (!m_nightChosen) {
         m_night = darkDesktop();
     }
-    setFixedSize(QSize(DesignWidth, DesignHeight) * m_zoom);
+    setFixedSize(QSize(DesignWidth, m_designHeight) * m_zoom);
     for (const Placed& placed : m_placed) {
         if (placed.widget == nullptr) {
             continue;
@@ -83,11 +83,12 @@ void MenuWindow::refreshIcons() {
     m_iconRatio = ratio;
     const TextColours& colours = textColours(m_night);
     const int page = m_menu.face() == Face::Page ? m_menu.currentPage() : 0;
-    m_titleIcon->setIcon(pageIcon(page, qRound(24 * m_zoom), colours.row, ratio));
+    m_titleIcon->setIcon(pageIcon(iconName(page), qRound(24 * m_zoom), colours.row, ratio));
     m_shownIconPage = page;
     for (int p = 1; p < static_cast<int>(m_pageButtons.size()); ++p) {
         if (ZelFrame* button = m_pageButtons[static_cast<std::size_t>(p)]) {
-            button->setIcon(pageIcon(p, qRound(22 * m_zoom), colours.pageButtonText, ratio));
+            button->setIcon(
+                pageIcon(iconName(p), qRound(22 * m_zoom), colours.pageButtonText, ratio));
         }
     }
 }
@@ -208,7 +209,7 @@ void MenuWindow::showAbout() {
                                 aboutText(), QMessageBox::Ok, this);
     box->setAttribute(Qt::WA_DeleteOnClose);
     box->setTextFormat(Qt::RichText);
-    box->setIconPixmap(pageIcon(0, 48, textColours(false).row, devicePixelRatioF()));
+    box->setIconPixmap(pageIcon(AppIcon, 48, textColours(false).row, devicePixelRatioF()));
     box->open();
 }
 

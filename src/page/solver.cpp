@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // SPDX-FileCopyrightText: 2026 zelFLIGHTAB developers
-#include "flight/solver.h"
+#include "page/solver.h"
 
 #include <algorithm>
 #include <cmath>
@@ -36,10 +36,10 @@ double productPerSixty(int target, const std::array<double, 3>& v) {
     return product(target, {v[0] * 60, v[1], v[2]}) / (target == 0 ? 60 : 1);
 }
 
-void propagate(const Model& model, Quantities& q) {
+void propagate(const Formulas& formulas, Quantities& q) {
     for (bool changed = true; changed;) {
         changed = false;
-        for (const Relation& relation : model.relations) {
+        for (const Relation& relation : formulas.relations) {
             std::array<double, 3> values{};
             int missing = -1;
             int unknowns = 0;
@@ -52,8 +52,8 @@ void propagate(const Model& model, Quantities& q) {
                     ++unknowns;
                 }
             }
-            if (unknowns != 1) {
-                continue;
+            if (unknowns != 1 || (relation.only >= 0 && relation.only != missing)) {
+                continue; // a one-way formula gives only its result
             }
             const double v = relation.solve(missing, values);
             if (std::isfinite(v)) {
@@ -65,14 +65,16 @@ void propagate(const Model& model, Quantities& q) {
     }
 }
 
-Report solve(const Model& model, PageSheet& page, double x, int inputRow) {
-    const Link& typed = model.rows[static_cast<std::size_t>(inputRow - 1)];
+Report solve(const PageTable& table, PageSheet& page, double x, int inputRow) {
+    const Formulas& model = table.formulas;
+    const RowSpec& typed = table.row(inputRow);
     if ((x < 0 && typed.sign != Sign::Any) || (x == 0 && typed.sign == Sign::Positive)) {
         return Report::beep();
     }
-    if (x < typed.low || x > typed.high || (typed.openHigh && x == typed.high) ||
+    const Range& range = typed.range;
+    if (x < range.low || x > range.high || (range.openHigh && x == range.high) ||
         !std::isfinite(apply(typed.fromRow, x))) {
-        return Report::warning(typed.outOfRange);
+        return Report::warning(range.message);
     }
 
     // The givens, newest first: the typed row, then those typed before it.
@@ -83,19 +85,18 @@ Report solve(const Model& model, PageSheet& page, double x, int inputRow) {
         }
     }
     auto valueOf = [&](int row) {
-        const Link& link = model.rows[static_cast<std::size_t>(row - 1)];
+        const RowSpec& link = table.row(row);
         return apply(link.fromRow, row == inputRow ? x : page.value(row));
     };
     Quantities q = nothingKnown();
     std::vector<int> taken;
     for (int row : givens) {
-        const Link& link = model.rows[static_cast<std::size_t>(row - 1)];
+        const RowSpec& link = table.row(row);
         if (link.group != 0) {
             // One given per group: a newer one of the same group was taken.
             bool groupTaken = false;
             for (int t : taken) {
-                groupTaken =
-                    groupTaken || model.rows[static_cast<std::size_t>(t - 1)].group == link.group;
+                groupTaken = groupTaken || table.row(t).group == link.group;
             }
             if (groupTaken) {
                 continue;
@@ -127,7 +128,7 @@ Report solve(const Model& model, PageSheet& page, double x, int inputRow) {
 
     // Every row from its quantity; a typed row that counts keeps what was typed.
     for (int row = 1; row <= PageSheet::Rows; ++row) {
-        const Link& link = model.rows[static_cast<std::size_t>(row - 1)];
+        const RowSpec& link = table.row(row);
         if (link.quantity < 0) {
             continue;
         }
