@@ -12,8 +12,8 @@ double multiplier(double factor) {
     return factor > 0 ? factor : 1 / -factor;
 }
 
-bool PageTable::outputOnly(int number) const {
-    const RowSpec& shape = row(number);
+bool PageTable::outputOnly(int index) const {
+    const RowSpec& shape = row(index);
     if (shape.has(OutputOnly)) {
         return true;
     }

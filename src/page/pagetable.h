@@ -170,7 +170,7 @@ struct PageTable {
     bool isText() const { return decode != nullptr; }
     bool hasFormulas() const { return !formulas.relations.empty(); }
     /// A row that only shows results: a typed value put into it beeps.
-    bool outputOnly(int row) const;
+    bool outputOnly(int index) const;
 };
 
 } // namespace zel

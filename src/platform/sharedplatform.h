@@ -15,8 +15,8 @@ namespace zel {
 /// The platform pieces that the window and the console share: regional
 /// symbols, the settings folder, HTTP and the clock. Only the dialogs differ.
 struct SharedPlatform {
-    SharedPlatform(QtRegional regional, QtStorage storage)
-        : regional(std::move(regional)), storage(std::move(storage)) {}
+    SharedPlatform(QtRegional symbols, QtStorage files)
+        : regional(std::move(symbols)), storage(std::move(files)) {}
 
     QtRegional regional;
     QtStorage storage;
