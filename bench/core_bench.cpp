@@ -26,7 +26,7 @@ class Silent : public zel::Interaction,
     bool write(const std::string&, std::string_view) override { return false; }
     void remove(const std::string&) override {}
     bool update(const std::string&, const Change&) override { return false; }
-    bool connected(std::string&) override { return false; }
+    bool connected() override { return false; }
     void get(const std::string&, zel::Then<zel::HttpReply> then) override { then({}); }
     std::chrono::year_month_day today() override {
         return std::chrono::year{2026} / std::chrono::November / 22;

@@ -7,10 +7,6 @@
 namespace zel {
 namespace {
 
-bool isDigit(char c) {
-    return c >= '0' && c <= '9';
-}
-
 /// The text with every `symbol` left out.
 std::string without(std::string text, std::string_view symbol) {
     for (auto at = text.find(symbol); !symbol.empty() && at != std::string::npos;

@@ -45,17 +45,6 @@ std::optional<int> number(std::string_view text, int low, int high) {
     return value;
 }
 
-/// Decodes one UTF-8 character at `at`, advancing it; a stray byte stands for itself.
-char32_t nextCharacter(std::string_view text, std::size_t& at) {
-    const auto lead = static_cast<unsigned char>(text[at++]);
-    int extra = lead >= 0xF0 ? 3 : lead >= 0xE0 ? 2 : lead >= 0xC0 ? 1 : 0;
-    char32_t code = extra == 0 ? lead : lead & (0x3F >> extra);
-    for (; extra > 0 && at < text.size(); --extra) {
-        code = (code << 6) | (static_cast<unsigned char>(text[at++]) & 0x3F);
-    }
-    return code;
-}
-
 std::optional<int> keyCode(std::string_view name) {
     if (name == "enter") {
         return key::Enter;
@@ -82,11 +71,8 @@ std::string folded(std::string_view text) {
             ++at;
             continue;
         }
-        if (c >= 'A' && c <= 'Z') {
-            out += static_cast<char>(c - 'A' + 'a');
-        } else if ((c >= 'a' && c <= 'z') || (c >= '0' && c <= '9') ||
-                   static_cast<unsigned char>(c) >= 0x80) {
-            out += c;
+        if (isLetter(c) || isDigit(c) || static_cast<unsigned char>(c) >= 0x80) {
+            out += lowerCase(c);
         }
     }
     return out;

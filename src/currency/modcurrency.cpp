@@ -18,16 +18,6 @@ constexpr std::string_view DefaultConverterUrl = "https://www.google.com/finance
 constexpr std::string_view DefaultEcbUrl =
     "https://www.ecb.europa.eu/stats/eurofxref/eurofxref-daily.xml";
 
-std::string upperCase(std::string_view text) {
-    std::string out(text);
-    for (char& c : out) {
-        if (c >= 'a' && c <= 'z') {
-            c = static_cast<char>(c - 32);
-        }
-    }
-    return out;
-}
-
 bool isNoCurrency(std::string_view code) {
     return charCount(code) != 3 || upperCase(code) == ModCurrency::NoCurrency;
 }
@@ -167,9 +157,8 @@ void ModCurrency::nameCode(Then<bool> then) {
                       });
 }
 
-bool ModCurrency::IsConnected(std::string& connectionType) {
-    connectionType.clear();
-    if (m_platform.network.connected(connectionType)) {
+bool ModCurrency::IsConnected() {
+    if (m_platform.network.connected()) {
         return true;
     }
     m_platform.ui.message(MessageIcon::Information, AppTitle,
@@ -230,8 +219,7 @@ void ModCurrency::DownloadRates(Then<bool> then) {
             then(done);
         }
     };
-    std::string connectionType;
-    if (!IsConnected(connectionType)) {
+    if (!IsConnected()) {
         ended(false);
         return;
     }

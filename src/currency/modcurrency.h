@@ -54,7 +54,7 @@ class ModCurrency {
     void SetMyCurrency(Then<bool> then);
 
     /// Whether the Internet can be reached; says so when it cannot.
-    bool IsConnected(std::string& connectionType);
+    bool IsConnected();
     /// Fetches `url` into `fileName`; says why when it cannot. `then` learns
     /// whether the file is there.
     void DownloadFile(const std::string& url, const std::string& fileName, Then<bool> then);

@@ -22,19 +22,6 @@ constexpr std::array<char32_t, 32> Windows1252High{
     0x2039, 0x0152, 0,      0x017D, 0,      0,      0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
     0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0,      0x017E, 0x0178};
 
-void appendUtf8(std::string& out, char32_t c) {
-    if (c < 0x80) {
-        out += static_cast<char>(c);
-    } else if (c < 0x800) {
-        out += static_cast<char>(0xC0 | (c >> 6));
-        out += static_cast<char>(0x80 | (c & 0x3F));
-    } else {
-        out += static_cast<char>(0xE0 | (c >> 12));
-        out += static_cast<char>(0x80 | ((c >> 6) & 0x3F));
-        out += static_cast<char>(0x80 | (c & 0x3F));
-    }
-}
-
 std::string fromWindows1252(std::string_view bytes) {
     std::string out;
     for (char byte : bytes) {
@@ -49,14 +36,7 @@ std::string fromWindows1252(std::string_view bytes) {
 std::string toWindows1252(std::string_view text) {
     std::string out;
     for (std::size_t at = 0; at < text.size();) {
-        const auto lead = static_cast<unsigned char>(text[at]);
-        const int length = lead < 0x80 ? 1 : lead < 0xE0 ? 2 : lead < 0xF0 ? 3 : 4;
-        char32_t c = length == 1 ? lead : lead & (0x7F >> length);
-        for (int i = 1; i < length && at + static_cast<std::size_t>(i) < text.size(); ++i) {
-            c = (c << 6) |
-                (static_cast<unsigned char>(text[at + static_cast<std::size_t>(i)]) & 0x3F);
-        }
-        at += static_cast<std::size_t>(length);
+        const char32_t c = nextCharacter(text, at);
         if (c < 0x80 || (c >= 0xA0 && c <= 0xFF)) {
             out += static_cast<char>(c);
             continue;
@@ -78,9 +58,9 @@ std::string_view trim(std::string_view text) {
 }
 
 bool sameName(std::string_view a, std::string_view b) {
-    auto lower = [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + 32) : c; };
-    return a.size() == b.size() && std::equal(a.begin(), a.end(), b.begin(),
-                                              [&](char x, char y) { return lower(x) == lower(y); });
+    return a.size() == b.size() && std::equal(a.begin(), a.end(), b.begin(), [](char x, char y) {
+               return lowerCase(x) == lowerCase(y);
+           });
 }
 
 /// One line of the file: its text and its own line end ("\r\n", "\n", "\r" or none).
@@ -181,43 +161,6 @@ std::string oneLine(std::string_view value) {
 }
 
 } // namespace
-
-bool isUtf8(std::string_view bytes) {
-    for (std::size_t at = 0; at < bytes.size();) {
-        const auto lead = static_cast<unsigned char>(bytes[at]);
-        std::size_t length = 0;
-        char32_t c = 0;
-        if (lead < 0x80) {
-            ++at;
-            continue;
-        }
-        if (lead >= 0xC2 && lead <= 0xDF) {
-            length = 2, c = lead & 0x1F;
-        } else if (lead >= 0xE0 && lead <= 0xEF) {
-            length = 3, c = lead & 0x0F;
-        } else if (lead >= 0xF0 && lead <= 0xF4) {
-            length = 4, c = lead & 0x07;
-        } else {
-            return false;
-        }
-        if (at + length > bytes.size()) {
-            return false;
-        }
-        for (std::size_t i = 1; i < length; ++i) {
-            const auto next = static_cast<unsigned char>(bytes[at + i]);
-            if ((next & 0xC0) != 0x80) {
-                return false;
-            }
-            c = (c << 6) | (next & 0x3F);
-        }
-        const char32_t least = length == 3 ? 0x800 : length == 4 ? 0x10000 : 0x80;
-        if (c < least || c > 0x10FFFF || (c >= 0xD800 && c <= 0xDFFF)) {
-            return false;
-        }
-        at += length;
-    }
-    return true;
-}
 
 std::string read(std::string_view file, std::string_view section, std::string_view key) {
     const std::vector<Line> lines = splitLines(file);

@@ -31,7 +31,4 @@ std::string read(std::string_view file, std::string_view section, std::string_vi
 std::string write(std::string_view file, std::string_view section, std::string_view key,
                   std::string_view value);
 
-/// True when the bytes are valid UTF-8.
-bool isUtf8(std::string_view bytes);
-
 } // namespace zel::profile

@@ -2,6 +2,8 @@
 // SPDX-FileCopyrightText: 2026 zelFLIGHTAB developers
 #include "currency/ratepages.h"
 
+#include "entry/text.h"
+
 #include <expat.h>
 
 #include <array>
@@ -11,12 +13,8 @@
 namespace zel {
 namespace {
 
-bool isDigit(char c) {
-    return c >= '0' && c <= '9';
-}
-
 bool isAlnum(char c) {
-    return isDigit(c) || (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z');
+    return isDigit(c) || isLetter(c);
 }
 
 /// A rate as the feed writes it: digits with at most one decimal point.

@@ -92,9 +92,6 @@ bool startsWith(std::string_view text, std::size_t at, std::string_view symbol) 
     return !symbol.empty() && text.substr(at, symbol.size()) == symbol;
 }
 
-bool isDigit(char c) {
-    return c >= '0' && c <= '9';
-}
 bool isBlank(char c) {
     return c == ' ' || c == '\t';
 }
@@ -155,25 +152,6 @@ double readPrefix(std::string_view text) {
 }
 
 } // namespace
-
-void appendUtf8(std::string& text, char32_t c) {
-    if (c < 0x80) {
-        text += static_cast<char>(c);
-        return;
-    }
-    static constexpr unsigned char Lead[] = {0, 0xC0, 0xE0, 0xF0};
-    const int extra = c < 0x800 ? 1 : c < 0x10000 ? 2 : 3;
-    text += static_cast<char>(Lead[extra] | (c >> (6 * extra)));
-    for (int shift = 6 * (extra - 1); shift >= 0; shift -= 6) {
-        text += static_cast<char>(0x80 | ((c >> shift) & 0x3F));
-    }
-}
-
-std::size_t charCount(std::string_view text) {
-    return static_cast<std::size_t>(std::count_if(text.begin(), text.end(), [](char c) {
-        return (static_cast<unsigned char>(c) & 0xC0) != 0x80;
-    }));
-}
 
 std::string generalText(double value, const Symbols& symbols) {
     return significantText(value, 15, 14, symbols);
@@ -323,17 +301,6 @@ double CGetal(std::string_view text, const Symbols& symbols) {
 
 double textValue(std::string_view text, const Symbols& symbols) {
     return readRegional(text, symbols).value_or(0);
-}
-
-std::string FilterNumeric(std::string_view text) {
-    std::string out;
-    for (char c : text) {
-        if (c != ',') {
-            out += c;
-        }
-    }
-    std::erase(out, '.');
-    return out;
 }
 
 } // namespace zel

@@ -2,6 +2,8 @@
 // SPDX-FileCopyrightText: 2026 zelFLIGHTAB developers
 #pragma once
 
+#include "entry/text.h"
+
 #include <optional>
 #include <string>
 #include <string_view>
@@ -14,12 +16,6 @@ struct Symbols {
     std::string decimal = ".";
     std::string grouping = ",";
 };
-
-/// Number of characters (not bytes) of a UTF-8 text: what a caption's length means.
-std::size_t charCount(std::string_view text);
-
-/// Appends one character to a UTF-8 text.
-void appendUtf8(std::string& text, char32_t c);
 
 /// The general number-to-text conversion of a double, as value tags hold it:
 /// at most 15 significant digits, trailing zeros dropped, plain notation while
@@ -53,8 +49,5 @@ double CGetal(std::string_view text, const Symbols& symbols);
 
 /// The regional reading of a stored text, 0 when it is not a number.
 double textValue(std::string_view text, const Symbols& symbols);
-
-/// `FilterNumeric`: the text with every "," and then every "." removed.
-std::string FilterNumeric(std::string_view text);
 
 } // namespace zel

@@ -101,9 +101,8 @@ struct HttpReply {
 class Network {
   public:
     virtual ~Network() = default;
-    /// Whether the machine can reach the Internet (true when nobody can tell),
-    /// and a word for the kind of connection.
-    virtual bool connected(std::string& connectionType) = 0;
+    /// Whether the machine can reach the Internet (true when nobody can tell).
+    virtual bool connected() = 0;
     /// Starts a GET; `then` takes the outcome when the transfer ends. An empty
     /// body, a transfer over its size or time limit and an HTTP error status
     /// are failed transfers.

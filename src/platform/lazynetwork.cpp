@@ -18,11 +18,10 @@ Network* LazyNetwork::network() {
     return m_network.get();
 }
 
-bool LazyNetwork::connected(std::string& connectionType) {
+bool LazyNetwork::connected() {
     if (Network* real = network()) {
-        return real->connected(connectionType);
+        return real->connected();
     }
-    connectionType = "Unknown";
     return true; // the transfer will say what is missing
 }
 

@@ -15,7 +15,7 @@ class LazyNetwork : public Network {
     LazyNetwork();
     ~LazyNetwork() override;
 
-    bool connected(std::string& connectionType) override;
+    bool connected() override;
     void get(const std::string& url, Then<HttpReply> then) override;
 
   private:

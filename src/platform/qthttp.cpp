@@ -18,30 +18,14 @@ QtHttp::QtHttp(Limits limits) : m_limits(limits) {}
 
 QtHttp::~QtHttp() = default;
 
-bool QtHttp::connected(std::string& connectionType) {
+bool QtHttp::connected() {
     using Info = QNetworkInformation;
     if (!Info::instance()) {
         Info::loadBackendByFeatures(Info::Feature::Reachability);
     }
     const Info* info = Info::instance();
-    if (!info) {
-        connectionType = "Unknown";
-        return true; // no backend on this system: nobody can tell
-    }
-    switch (info->transportMedium()) {
-    case Info::TransportMedium::Ethernet:
-    case Info::TransportMedium::WiFi:
-        connectionType = "LAN";
-        break;
-    case Info::TransportMedium::Cellular:
-    case Info::TransportMedium::Bluetooth:
-        connectionType = "Modem";
-        break;
-    case Info::TransportMedium::Unknown:
-        connectionType = "Configured";
-        break;
-    }
-    return info->reachability() != Info::Reachability::Disconnected;
+    // Without a backend on this system nobody can tell: the transfer will.
+    return info == nullptr || info->reachability() != Info::Reachability::Disconnected;
 }
 
 void QtHttp::get(const std::string& url, Then<HttpReply> then) {

@@ -25,7 +25,7 @@ class QtHttp : public Network {
     ~QtHttp() override;
 
     /// Asks QNetworkInformation where a backend exists; "unknown" counts as connected.
-    bool connected(std::string& connectionType) override;
+    bool connected() override;
     void get(const std::string& url, Then<HttpReply> then) override;
 
   private:

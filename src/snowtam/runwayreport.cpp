@@ -53,10 +53,6 @@ constexpr std::array<std::string_view, 9> GrfUnits{
     "",        "Runway",       "Assessed - UTC", "Touchdown",  "Midpoint",
     "Rollout", "Coverage - %", "Depth - mm",     "Contaminant"};
 
-bool isDigit(char c) {
-    return c >= '0' && c <= '9';
-}
-
 bool allDigits(std::string_view text) {
     return std::all_of(text.begin(), text.end(), isDigit);
 }

@@ -153,12 +153,13 @@ char32_t groupCharacter(char32_t c) {
 
 /// A report is typed in capitals: figures, letters, "/", "." and blanks.
 char32_t reportCharacter(char32_t c) {
-    if (c >= 'a' && c <= 'z') {
-        return c - 'a' + 'A';
+    if (c >= 0x80) {
+        return 0;
     }
+    const char capital = upperCase(static_cast<char>(c));
     const bool allowed =
-        (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') || c == '/' || c == '.' || c == ' ';
-    return allowed ? c : 0;
+        isLetter(capital) || isDigit(capital) || capital == '/' || capital == '.' || capital == ' ';
+    return allowed ? static_cast<char32_t>(capital) : 0;
 }
 
 constexpr std::array<PageTable, 2> Pages{{

@@ -76,10 +76,8 @@ class MenuWindow : public QWidget {
     ZelFrame* clearKey() const { return m_clearKey; }
     ZelFrame* menuButton() const { return m_menuButton; }
     ZelFrame* title() const { return m_title; }
-    ZelFrame* titleIcon() const { return m_titleIcon; }
     QWidget* pageFace() const { return m_pageFace; }
     QWidget* memoryPanel() const { return m_memoryPanel; }
-    QWidget* digitsPanel() const { return m_digitsKey; }
     QWidget* operatorPanel() const { return m_operatorPanel; }
 
   protected:

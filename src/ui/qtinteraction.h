@@ -63,9 +63,7 @@ class DispatchedNetwork : public Network {
     DispatchedNetwork(Network& network, Dispatch dispatch)
         : m_network(network), m_dispatch(std::move(dispatch)) {}
 
-    bool connected(std::string& connectionType) override {
-        return m_network.connected(connectionType);
-    }
+    bool connected() override { return m_network.connected(); }
     void get(const std::string& url, Then<HttpReply> then) override;
 
   private:

@@ -35,7 +35,6 @@ class ZelFrame : public QWidget {
     QColor textColor() const { return m_style.text; }
     /// The caption's size at 100 % zoom.
     void setPointSize(qreal points);
-    qreal pointSize() const { return m_pointSize; }
     /// The zoom: sizes, corners and captions are drawn this many times larger.
     void setScale(qreal scale);
     void setAlignment(Qt::Alignment alignment);

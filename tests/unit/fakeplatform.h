@@ -106,10 +106,7 @@ class FakeNetwork : public Network {
     std::vector<std::string> requested;
     std::function<void()> during; ///< runs inside each transfer, as the window's events do
 
-    bool connected(std::string& type) override {
-        type = "LAN";
-        return online;
-    }
+    bool connected() override { return online; }
     /// Ends each transfer at once.
     void get(const std::string& url, Then<HttpReply> then) override {
         requested.push_back(url);

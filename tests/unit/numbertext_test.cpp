@@ -154,9 +154,5 @@ TEST(GeneralText, RoundTripsThroughReading) {
     }
 }
 
-TEST(FilterNumeric, RemovesBothSeparators) {
-    EXPECT_EQ(FilterNumeric("1,234.56"), "123456");
-}
-
 } // namespace
 } // namespace zel::test
