@@ -2,6 +2,7 @@
 // SPDX-FileCopyrightText: 2026 zelFLIGHTAB developers
 #include "currency/modcurrency.h"
 
+#include "currency/pages.h"
 #include "currency/profile.h"
 #include "currency/ratepages.h"
 
@@ -42,11 +43,12 @@ double ModCurrency::ToNumber(std::optional<std::string_view> value, const Symbol
 }
 
 std::string ModCurrency::techFile(std::string_view name) {
-    return NormalizePath(m_platform.storage.programFolder()) + "/Tech/" + std::string(name);
+    return NormalizePath(m_platform.storage.programFolder()) + "/" + std::string(TechFolder) + "/" +
+           std::string(name);
 }
 
 std::string ModCurrency::settingsFile() {
-    return techFile("zelFLIGHTAB.ini");
+    return techFile(SettingsName);
 }
 
 std::string ModCurrency::ReadIni(std::string_view section, std::string_view key) {
@@ -99,7 +101,7 @@ void ModCurrency::LoadRates(const Symbols& symbols, Then<const Rates&> then) {
 ModCurrency::Rates ModCurrency::readRates(const Symbols& symbols) {
     Rates rates{};
     for (std::size_t row = 0; row < rates.size(); ++row) {
-        const std::string code = row < RowCodes.size() ? std::string(RowCodes[row]) : m_myCurrCode;
+        const std::string code = rowCode(static_cast<int>(row) + 1);
         std::string text;
         for (char c : ReadIni(RatesSection, code)) {
             // Rates are stored with "." whatever the machine's decimal symbol.
@@ -113,6 +115,12 @@ ModCurrency::Rates ModCurrency::readRates(const Symbols& symbols) {
                          : 0.0f;
     }
     return rates;
+}
+
+std::string ModCurrency::rowCode(int row) const {
+    const std::string_view unit = currencyPages().front().row(row).unit;
+    const auto dash = unit.rfind(" - ");
+    return dash == std::string_view::npos ? m_myCurrCode : std::string(unit.substr(dash + 3));
 }
 
 std::string ModCurrency::ownCurrencyCaption() {
@@ -235,7 +243,13 @@ void ModCurrency::DownloadRates(Then<bool> then) {
                           m_step = Step::Downloading;
                           m_platform.ui.setBusy(true);
                           // Euro is the base and is never fetched.
-                          const Codes codes{"AUD", "CAD", "INR", "JPY", "GBP", "USD", m_myCurrCode};
+                          Codes codes;
+                          std::size_t next = 0;
+                          for (int row = 1; row <= PageSheet::Rows; ++row) {
+                              if (rowCode(row) != "EUR") {
+                                  codes.at(next++) = rowCode(row);
+                              }
+                          }
                           auto finish = [this](bool done) { finishDownload(done); };
                           if (source() == Source::Converter) {
                               fetchConverterRates(

@@ -21,9 +21,9 @@ namespace zel {
 /// day number of the last download. Section "Download" chooses the rate source.
 class ModCurrency {
   public:
-    /// The rows of the Currency page, in order; row 8 is the user's own currency.
-    static constexpr std::array<std::string_view, 7> RowCodes{"AUD", "CAD", "EUR", "INR",
-                                                              "JPY", "GBP", "USD"};
+    /// The currency code of a row of the Currency page: the code its unit
+    /// caption ends with ("US Dollar - USD"); row 8 is the user's own currency.
+    std::string rowCode(int row) const;
     /// "XXX", the code of no currency: no own currency is set.
     static constexpr std::string_view NoCurrency = "XXX";
 

@@ -66,6 +66,11 @@ struct FileRead {
     std::string bytes;
 };
 
+/// Where below the program folder the settings file is kept; the downloaded
+/// rate pages are kept beside it.
+inline constexpr std::string_view TechFolder = "Tech";
+inline constexpr std::string_view SettingsName = "zelFLIGHTAB.ini";
+
 /// The program folder and the files below it: the settings file, the kept pages.
 class Storage {
   public:

@@ -18,7 +18,9 @@ QString qt(const std::string& text) {
     return QString::fromStdString(text);
 }
 
-constexpr auto SettingsInTech = "/Tech/zelFLIGHTAB.ini";
+const QString SettingsInTech = QStringLiteral("/%1/%2").arg(
+    QLatin1String(TechFolder.data(), static_cast<qsizetype>(TechFolder.size())),
+    QLatin1String(SettingsName.data(), static_cast<qsizetype>(SettingsName.size())));
 
 } // namespace
 

@@ -48,10 +48,12 @@ constexpr std::array<Contaminant, 17> Contaminants{{
     {"ICE", "Ice"},
 }};
 
-/// The page's own captions, for a GRF report.
-constexpr std::array<std::string_view, 9> GrfUnits{
-    "",        "Runway",       "Assessed - UTC", "Touchdown",  "Midpoint",
-    "Rollout", "Coverage - %", "Depth - mm",     "Contaminant"};
+/// A row's caption on the Snowtam page (an eight-figure group) or on this
+/// page (a GRF report), as their tables give them.
+std::string_view unitOf(bool group, int row) {
+    const std::span<const PageTable> pages = snowtamPages();
+    return pages[group ? 0 : 1].row(row).unit;
+}
 
 bool allDigits(std::string_view text) {
     return std::all_of(text.begin(), text.end(), isDigit);
@@ -184,7 +186,7 @@ std::optional<Rows> grfReport(const std::vector<std::string_view>& groups, std::
     const auto codes = thirds(groups[at + 1]);
     Rows rows;
     for (std::size_t row = 1; row < rows.size(); ++row) {
-        rows[row].first = std::string(GrfUnits[row]);
+        rows[row].first = std::string(unitOf(false, static_cast<int>(row)));
     }
     rows[1].second = runway;
     rows[2].second = time;
@@ -201,17 +203,8 @@ std::optional<Rows> grfReport(const std::vector<std::string_view>& groups, std::
 /// The captions of the eight-figure group's page.
 Rows stateRows() {
     Rows rows;
-    const std::array<std::string_view, 9> units{"",
-                                                "Runway",
-                                                "Type of Deposit",
-                                                "",
-                                                "Extent of Deposit",
-                                                "",
-                                                "Depth of Deposit",
-                                                "Brake Coefficient",
-                                                "Braking Action"};
-    for (std::size_t row = 1; row < rows.size(); ++row) {
-        rows[row].first = std::string(units[row]);
+    for (int row = 1; row <= PageSheet::Rows; ++row) {
+        rows[static_cast<std::size_t>(row)].first = std::string(unitOf(true, row));
     }
     return rows;
 }
@@ -299,7 +292,7 @@ Report Convert_RunwayCondition(PageSheet& page, std::string_view text) {
         }
     }
     for (int row = 1; row <= PageSheet::Rows; ++row) {
-        page[row].unit = std::string(GrfUnits[static_cast<std::size_t>(row)]);
+        page[row].unit = std::string(unitOf(false, row));
     }
     return Report::warning(NotAReport);
 }
