@@ -2,6 +2,8 @@
 // SPDX-FileCopyrightText: 2026 zelFLIGHTAB developers
 #include "flight/airspeed.h"
 
+#include "flight/atmosphere.h"
+
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -12,14 +14,12 @@ namespace {
 
 enum Row { Altitude = 1, Mach = 2, Sat = 3, Cas = 4, Tat = 5, Eas = 6, Recovery = 7, Tas = 8 };
 
-constexpr double ZeroCelsius = 273.15;
+using atmosphere::ZeroCelsius;
 /// Impact pressure ratio at exactly Mach 1, where the two flow laws meet.
 const double SonicImpactPressure = std::pow(1.2, 3.5) - 1;
 
-/// Standard-atmosphere temperature at an altitude, kelvin: 1.98 K colder per
-/// 1000 ft up to the tropopause, where it stays at 216.65 K.
 double standardTemperature(double altitudeFeet) {
-    return std::max(288.15 - 0.0019812 * altitudeFeet, 216.65);
+    return atmosphere::isaKelvin(altitudeFeet);
 }
 
 double kelvin(double celsius) {
@@ -99,10 +99,7 @@ std::optional<Solution> solve(const PageSheet& page) {
 } // namespace
 
 double pressureRatio(double altitudeFeet) {
-    if (altitudeFeet < 36089) {
-        return std::pow(1 - 6.8753e-6 * altitudeFeet, 5.2561);
-    }
-    return 0.223363 * std::exp(-4.8062e-5 * (altitudeFeet - 36089));
+    return atmosphere::tablePressureRatio(altitudeFeet);
 }
 
 double impactPressureRatio(double mach) {

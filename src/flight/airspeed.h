@@ -2,12 +2,12 @@
 // SPDX-FileCopyrightText: 2026 zelFLIGHTAB developers
 #pragma once
 
+#include "flight/atmosphere.h"
 #include "page/pagetable.h"
 
 namespace zel {
 
-/// Speed of sound at sea level in the standard atmosphere, knots.
-inline constexpr double SeaLevelSoundSpeed = 661.2454985;
+using atmosphere::SeaLevelSoundSpeed;
 
 /// Static pressure ratio p/p0 at a pressure altitude in feet (troposphere to
 /// 36089 ft, then the isothermal stratosphere).

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // SPDX-FileCopyrightText: 2026 zelFLIGHTAB developers
+#include "flight/atmosphere.h"
 #include "page/solver.h"
 
 #include <cmath>
@@ -10,23 +11,16 @@ namespace {
 
 using namespace solver;
 
-// The ICAO standard atmosphere below the tropopause: sea-level pressure and
-// temperature, the lapse rate 0.0065 K/m, g0 = 9.80665 m/s² and R = 287.05287
-// J/(kg K) give the exponent n = g0 / (R x lapse) and the height scale
-// H0 = T0 / lapse, 44,330.77 m.
-constexpr double P0 = 1013.25;
-constexpr double T0 = 288.15;
-constexpr double Lapse = 0.0065;
-constexpr double N = 9.80665 / (287.05287 * Lapse);
-constexpr double H0 = T0 / Lapse / 0.3048; // feet
+// The ICAO standard atmosphere below the tropopause.
+constexpr double P0 = atmosphere::SeaLevelPressure;
+constexpr double T0 = atmosphere::SeaLevelTemperature;
+constexpr double N = atmosphere::Exponent;
+constexpr double H0 = atmosphere::HeightScaleFeet;
 constexpr double HectopascalsPerInch = 33.8638866667;
 
 enum Quantity { Altitude, Qnh, PressureAltitude, Oat, Deviation, DensityAltitude, IsaTemperature };
 
-/// Station pressure over sea-level pressure at a pressure altitude.
-double pressureRatio(double pa) {
-    return std::pow(1 - pa / H0, N);
-}
+using atmosphere::pressureRatio;
 
 /// Altitude, QNH and pressure altitude: the station pressure is
 /// QNH x (1 - A / H0)^n, and the pressure altitude is where the standard
@@ -44,7 +38,7 @@ double altimeter(int target, const std::array<double, 3>& v) {
 /// 1.98 °C colder per 1000 ft: 15 - 0.0019812 x PA. The ISA temperature is
 /// only ever a result.
 double isa(int, const std::array<double, 3>& v) {
-    return 15 - 0.0019812 * v[0];
+    return atmosphere::isaCelsius(v[0]);
 }
 
 /// OAT = ISA temperature + deviation.
