@@ -2,7 +2,7 @@
 // SPDX-FileCopyrightText: 2026 zelFLIGHTAB developers
 // Console command lines, any bytes: a line is run or refused with a reason,
 // and the calculator behind it never stores or shows anything non-finite.
-#include "../tests/unit/fakeplatform.h"
+#include "fakeplatform.h"
 #include "console/console.h"
 #include "menucheck.h"
 

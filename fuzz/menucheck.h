@@ -2,7 +2,7 @@
 // SPDX-FileCopyrightText: 2026 zelFLIGHTAB developers
 #pragma once
 
-#include "../tests/unit/fakeplatform.h"
+#include "fakeplatform.h"
 #include "check.h"
 
 namespace zel::fuzz {

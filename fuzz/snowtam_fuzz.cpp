@@ -3,7 +3,7 @@
 // Runway-state groups: any eight characters decoded directly, and whole
 // keyboard sequences on the Snowtam page (keys, Backspace, Enter, Escape,
 // row clicks).
-#include "../tests/unit/fakeplatform.h"
+#include "fakeplatform.h"
 #include "menucheck.h"
 #include "snowtam/snowtam.h"
 

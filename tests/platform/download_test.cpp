@@ -2,7 +2,7 @@
 // SPDX-FileCopyrightText: 2026 zelFLIGHTAB developers
 // Rate downloads end to end: the real Qt HTTP client and real files in a
 // temporary folder, against a server on 127.0.0.1 that the test runs.
-#include "../unit/fakeplatform.h"
+#include "fakeplatform.h"
 #include "currency/profile.h"
 #include "currency/ratepages.h"
 #include "localserver.h"
@@ -119,7 +119,7 @@ struct Download {
     /// Opens the Currency page, says yes to the download, converts 100 euro.
     void openAndConvert() {
         ui.answers = {true};
-        menu.LabMenu_Click(18);
+        menu.LabMenu_Click(page::Currency);
         settle(menu);
         for (char c : std::string("100")) {
             menu.Form_KeyPress(static_cast<unsigned char>(c));

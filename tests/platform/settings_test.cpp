@@ -2,7 +2,7 @@
 // SPDX-FileCopyrightText: 2026 zelFLIGHTAB developers
 // The settings folder in bad shape, with real files: the calculator starts,
 // converts, says what it could not save, and never destroys a readable file.
-#include "../unit/fakeplatform.h"
+#include "fakeplatform.h"
 #include "platform/qtstorage.h"
 
 #include <QDir>
@@ -47,7 +47,7 @@ struct Start {
         Menu menu(platform);
         menu.Form_Load();
         menu.Form_Activate();
-        menu.LabMenu_Click(18);
+        menu.LabMenu_Click(page::Currency);
         for (char c : std::string("100")) {
             menu.Form_KeyPress(static_cast<unsigned char>(c));
         }

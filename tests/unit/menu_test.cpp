@@ -50,7 +50,7 @@ TEST(Window, FunctionKeysOpenPagesFromTheMenuFace) {
 }
 
 TEST(Window, EscapeEndsOnTheMenuAndClearsOnAPage) {
-    Calculator calc(Dot, 1);
+    Calculator calc(Dot, page::Weight);
     calc.enter(1, "5");
     calc.menu.Form_KeyUp(key::Escape);
     EXPECT_EQ(calc.tag(1), "0");
@@ -74,11 +74,11 @@ TEST(Window, PagesSetTheirPanelsAndMemoryKeys) {
 }
 
 TEST(Window, ReopeningAPageBlanksItAndBackToMenuKeepsIt) {
-    Calculator calc(Dot, 1);
+    Calculator calc(Dot, page::Weight);
     calc.enter(2, "165");
     calc.menu.LabelMenu_Click();
     EXPECT_EQ(calc.caption(1), "74.83");
-    calc.menu.LabMenu_Click(1);
+    calc.menu.LabMenu_Click(page::Weight);
     for (int row = 1; row <= 8; ++row) {
         EXPECT_EQ(calc.tag(row), "0");
         EXPECT_EQ(calc.caption(row), "");
@@ -93,7 +93,7 @@ TEST(Window, TypingIsIgnoredOnTheMenuFace) {
 }
 
 TEST(InputRow, ClickTakesTheEntryOrSelectsTheRow) {
-    Calculator calc(Dot, 1);
+    Calculator calc(Dot, page::Weight);
     calc.enter(1, "12");
     EXPECT_TRUE(calc.menu.row(1).input);
     EXPECT_EQ(calc.menu.display(), "0.");
@@ -119,7 +119,7 @@ TEST(InputRow, RowsWithoutAUnitDoNothing) {
 }
 
 TEST(RowRendering, DigitsKeyCyclesAndRerendersEveryRow) {
-    Calculator calc(Dot, 1);
+    Calculator calc(Dot, page::Weight);
     calc.enter(1, "1");
     const std::pair<const char*, const char*> cycle[] = {
         {"0....", "35.27396584"}, {"0", "35"}, {"0.00", "35.27"}};
@@ -131,7 +131,7 @@ TEST(RowRendering, DigitsKeyCyclesAndRerendersEveryRow) {
 }
 
 TEST(RowRendering, TinyValuesRoundAndLongCaptionsAreSmall) {
-    Calculator calc(Dot, 1);
+    Calculator calc(Dot, page::Weight);
     calc.enter(8, "1");
     EXPECT_EQ(calc.caption(3), "0.00"); // a real 0.000001 still shows its rounding
     calc.enter(1, "123456");

@@ -318,7 +318,7 @@ TEST(RunwayCondition, DecodesTodaysReports) {
     };
     for (const auto& [report, expect] : cases) {
         // Typed in any case, decoded with Enter.
-        Calculator calc(Dot, 24);
+        Calculator calc(Dot, page::RwyCondition);
         calc.type(report);
         calc.menu.Form_KeyUp(key::Enter);
         std::vector<std::string> told;
@@ -338,7 +338,7 @@ TEST(RunwayCondition, DecodesTodaysReports) {
 }
 
 TEST(RunwayCondition, TakesAReportOfUpTo160Characters) {
-    Calculator calc(Dot, 24);
+    Calculator calc(Dot, page::RwyCondition);
     calc.type("r24l/29-0140");
     EXPECT_EQ(calc.menu.display(), "R24L/290140");
     EXPECT_FALSE(calc.menu.panelsVisible());
@@ -349,7 +349,7 @@ TEST(RunwayCondition, TakesAReportOfUpTo160Characters) {
     calc.menu.LabValue_Click(3);
     EXPECT_EQ(calc.caption(1), "24L");
     EXPECT_EQ(calc.menu.row(2).unit, "Type of Deposit"); // the captions of the group
-    calc.menu.LabMenu_Click(24);
+    calc.menu.LabMenu_Click(page::RwyCondition);
     EXPECT_EQ(calc.menu.row(2).unit, "Assessed - UTC");
 }
 

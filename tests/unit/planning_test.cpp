@@ -7,7 +7,7 @@
 namespace zel::test {
 namespace {
 
-constexpr int Altitude = 19, Descent = 20, Turn = 21, FuelPlan = 22, CloudBase = 23;
+using page::Altitude, page::Descent, page::Turn, page::FuelPlan, page::CloudBase;
 
 TEST(AltitudePage, GivesPressureAndDensityAltitude) {
     const Scenario cases[] = {

@@ -29,13 +29,28 @@ inline std::string trimmed(std::string text) {
     return first == std::string::npos ? "" : text.substr(first, last - first + 1);
 }
 
+/// The row N of "N=..." or "N:...", or 0 when the item names no row 1..8.
+inline int rowOf(const std::string& item, std::size_t mark) {
+    if (mark == 0 || mark == std::string::npos || item.find_first_not_of("0123456789") != mark) {
+        return 0;
+    }
+    const int row = std::stoi(item.substr(0, mark));
+    return row >= 1 && row <= PageSheet::Rows ? row : 0;
+}
+
 inline void check(const Scenario& c) {
     const std::string name = std::string(c.name) + " [" + c.entries + "]";
     Calculator calc(c.symbols, c.page);
     std::istringstream entries(c.entries);
     for (std::string entry; entries >> entry;) {
         const auto at = entry.rfind('@');
-        calc.enter(std::stoi(entry.substr(at + 1)), entry.substr(0, at));
+        const std::string rowText = at == std::string::npos ? "" : entry.substr(at + 1) + "=";
+        const int row = rowOf(rowText, rowText.size() - 1);
+        if (row == 0) {
+            ADD_FAILURE() << name << ": cannot read the entry \"" << entry << '"';
+            return;
+        }
+        calc.enter(row, entry.substr(0, at));
     }
     std::vector<std::string> events;
     std::istringstream expect(c.expect);
@@ -51,10 +66,11 @@ inline void check(const Scenario& c) {
             }
         } else if (item.starts_with('#')) {
             EXPECT_EQ(calc.menu.display(), item.substr(1)) << name;
-        } else if (mark != std::string::npos) {
-            const int row = std::stoi(item.substr(0, mark));
+        } else if (const int row = rowOf(item, mark); row > 0) {
             EXPECT_EQ(item[mark] == '=' ? calc.tag(row) : calc.caption(row), item.substr(mark + 1))
                 << name << ", " << item;
+        } else if (!item.empty()) {
+            ADD_FAILURE() << name << ": cannot read the expectation \"" << item << '"';
         }
     }
     EXPECT_EQ(calc.ui.events, events) << name;

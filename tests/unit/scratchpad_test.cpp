@@ -73,7 +73,7 @@ TEST(ScratchPad, ShowsWhatAPocketCalculatorShows) {
         {"Enter without an operation does nothing", Dot, "12=", "12.", 18},
     };
     for (const auto& c : cases) {
-        Calculator calc(c.symbols, 1);
+        Calculator calc(c.symbols, page::Weight);
         press(calc, c.keys);
         EXPECT_EQ(calc.menu.display(), c.display) << c.name;
         EXPECT_EQ(calc.menu.displayCompact(), c.size == 10) << c.name;
@@ -81,7 +81,7 @@ TEST(ScratchPad, ShowsWhatAPocketCalculatorShows) {
 }
 
 TEST(ScratchPad, LimitsTheDecimalsThatFitTheDisplay) {
-    Calculator calc(Dot, 1);
+    Calculator calc(Dot, page::Weight);
     press(calc, "0.12345678901234");
     EXPECT_TRUE(calc.ui.events.empty());
     press(calc, "5");
@@ -90,7 +90,7 @@ TEST(ScratchPad, LimitsTheDecimalsThatFitTheDisplay) {
 }
 
 TEST(ScratchPad, OperatorAndMemoryHighlights) {
-    Calculator calc(Dot, 1);
+    Calculator calc(Dot, page::Weight);
     press(calc, "5/");
     EXPECT_TRUE(calc.menu.operatorLit(4));
     EXPECT_TRUE(calc.menu.operatorLit(5));
@@ -106,7 +106,7 @@ TEST(ScratchPad, OperatorAndMemoryHighlights) {
 }
 
 TEST(ScratchPad, DivisionByZeroIsReportedAndRecoverable) {
-    Calculator calc(Dot, 1);
+    Calculator calc(Dot, page::Weight);
     press(calc, "7/0=");
     EXPECT_EQ(calc.lastEvent(), "critical zelFLIGHTAB: Division by zero");
     press(calc, "2=");
@@ -115,27 +115,27 @@ TEST(ScratchPad, DivisionByZeroIsReportedAndRecoverable) {
 }
 
 TEST(ScratchPad, OverflowIsReportedAndNothingInfiniteIsKept) {
-    Calculator calc(Dot, 1);
+    Calculator calc(Dot, page::Weight);
     press(calc, "9999999999mmmmmm"); // squares until past the double range
     EXPECT_EQ(calc.lastEvent(), "critical zelFLIGHTAB: Overflow");
     EXPECT_TRUE(std::isfinite(calc.menu.scratchPad().accumulator()));
     EXPECT_TRUE(std::isfinite(calc.menu.scratchPad().inputValue()));
 
-    Calculator memory(Dot, 1);
+    Calculator memory(Dot, page::Weight);
     press(memory, std::string(308, '9'));
     const double typed = memory.menu.scratchPad().inputValue();
     press(memory, "PP");
     EXPECT_EQ(memory.lastEvent(), "critical zelFLIGHTAB: Overflow");
     EXPECT_EQ(memory.menu.scratchPad().memory(), typed);
 
-    Calculator digits(Dot, 1);
+    Calculator digits(Dot, page::Weight);
     press(digits, std::string(320, '9'));
     EXPECT_EQ(digits.lastEvent(), "critical zelFLIGHTAB: Overflow");
     EXPECT_TRUE(std::isfinite(digits.menu.scratchPad().inputValue()));
 }
 
 TEST(ScratchPad, RowClickDropsThePendingOperation) {
-    Calculator calc(Dot, 1);
+    Calculator calc(Dot, page::Weight);
     press(calc, "5+3");
     calc.menu.LabValue_Click(2);
     EXPECT_EQ(calc.tag(2), "3");
@@ -143,7 +143,7 @@ TEST(ScratchPad, RowClickDropsThePendingOperation) {
 }
 
 TEST(ScratchPad, FirstKeyAfterAnOperatorBlanksThePage) {
-    Calculator calc(Dot, 1);
+    Calculator calc(Dot, page::Weight);
     calc.enter(1, "2");
     press(calc, "5+");
     EXPECT_EQ(calc.caption(1), "2.00");

@@ -11,18 +11,38 @@
 #include <deque>
 #include <functional>
 #include <map>
+#include <stdexcept>
 #include <string>
 #include <vector>
 
 namespace zel::test {
 
+/// A page's number in the menu, found by its name in the catalogue.
+inline int pageNumber(std::string_view name) {
+    const PageCatalogue& pages = pageCatalogue();
+    for (int number = 1; number <= pages.count(); ++number) {
+        if (const PageTable* table = pages.find(number); table && table->name == name) {
+            return number;
+        }
+    }
+    throw std::logic_error("no page " + std::string(name));
+}
+
 /// The pages by their number in the menu.
 namespace page {
-inline constexpr int Weight = 1, Fluid = 2, Surface = 3, Speed = 4, Distance = 5, Angle = 6,
-                     Temperature = 7, Pressure = 8, Power = 9, FuelUplift = 10, Endurance = 11,
-                     FuelRange = 12, MachAS = 13, Snowtam = 14, TrackTime = 15, Wind = 16,
-                     WindComp = 17, Currency = 18;
-}
+inline const int Weight = pageNumber("Weight"), Fluid = pageNumber("Fluid"),
+                 Surface = pageNumber("Surface"), Speed = pageNumber("Speed"),
+                 Distance = pageNumber("Distance"), Angle = pageNumber("Angle"),
+                 Temperature = pageNumber("Temperature"), Pressure = pageNumber("Pressure"),
+                 Power = pageNumber("Power"), FuelUplift = pageNumber("Fuel Uplift"),
+                 Endurance = pageNumber("Endurance"), FuelRange = pageNumber("Fuel Range"),
+                 MachAS = pageNumber("Mach - AS"), Snowtam = pageNumber("Snowtam"),
+                 TrackTime = pageNumber("Track Time"), Wind = pageNumber("Wind"),
+                 WindComp = pageNumber("Wind Comp"), Currency = pageNumber("Currency"),
+                 Altitude = pageNumber("Altitude"), Descent = pageNumber("Descent"),
+                 Turn = pageNumber("Turn"), FuelPlan = pageNumber("Fuel Plan"),
+                 CloudBase = pageNumber("Cloud Base"), RwyCondition = pageNumber("RWY Condition");
+} // namespace page
 
 /// Records what the user would see; answers questions and input boxes from queues.
 class FakeInteraction : public Interaction {
