@@ -142,6 +142,7 @@ void Menu::LabValue_Click(int index) {
 }
 
 bool Menu::convert(int& inputRow) {
+    m_sheet.setToday(m_platform.clock.today());
     Report report = m_table->hasFormulas()
                         ? solver::solve(*m_table, m_sheet, m_pad.inputValue(), inputRow)
                         : m_table->convert(m_sheet, m_pad.inputValue(), inputRow);

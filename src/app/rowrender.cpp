@@ -56,6 +56,13 @@ void Menu::DisplayTags() {
         case Form::Direction:
             caption = formatNumber(v, "000", m_symbols);
             break;
+        case Form::Date: {
+            const auto n = static_cast<long long>(v);
+            caption = std::to_string(n / 10000) + "-" +
+                      formatNumber(double(n / 100 % 100), "00", m_symbols) + "-" +
+                      formatNumber(double(n % 100), "00", m_symbols);
+            break;
+        }
         case Form::Side:
             m_sheet[row].prefix = v > 0 ? "R " : "L ";
             caption = m_sheet[row].prefix + number(std::fabs(v));

@@ -102,15 +102,17 @@ constexpr std::array<PageTable, 7> Pages{{
 } // namespace
 
 // Each planning page is declared beside its formulas.
-extern const PageTable AltitudePage, DescentPage, TurnPage, FuelPlanPage, CloudBasePage;
+extern const PageTable AltitudePage, DescentPage, TurnPage, FuelPlanPage, CloudBasePage,
+    TrueAltitudePage, HoldingPage, SunPage;
 
 std::span<const PageTable> flightPages() {
     return Pages;
 }
 
 std::span<const PageTable* const> planningPages() {
-    static constexpr std::array<const PageTable*, 5> Planning{
-        &AltitudePage, &DescentPage, &TurnPage, &FuelPlanPage, &CloudBasePage};
+    static constexpr std::array Planning{&AltitudePage, &DescentPage,   &TurnPage,
+                                         &FuelPlanPage, &CloudBasePage, &TrueAltitudePage,
+                                         &HoldingPage,  &SunPage};
     return Planning;
 }
 

@@ -6,6 +6,7 @@
 #include "entry/numbertext.h"
 
 #include <array>
+#include <chrono>
 #include <string>
 #include <utility>
 #include <vector>
@@ -87,6 +88,9 @@ class PageSheet {
     void setFactor(int row, double f) { m_factors.at(static_cast<std::size_t>(row)) = f; }
 
     const Symbols& symbols() const { return m_symbols; }
+    /// Today's date, for a page that needs one when none is typed.
+    std::chrono::year_month_day today() const { return m_today; }
+    void setToday(std::chrono::year_month_day day) { m_today = day; }
 
   private:
     const Symbols& m_symbols;
@@ -94,6 +98,7 @@ class PageSheet {
     std::array<double, Rows + 1> m_factors{};
     int m_lastGiven = 0;
     Faulted m_fault;
+    std::chrono::year_month_day m_today{std::chrono::year{2000} / 1 / 1};
 };
 
 } // namespace zel

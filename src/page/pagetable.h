@@ -35,6 +35,7 @@ enum class Form : std::uint8_t {
     Direction,    ///< three digits: "090"
     Side,         ///< "R 11.31" for + (to the right), "L 11.31" for -
     HeadTail,     ///< "T 5.00" for + (tail), "H 5.00" for - (head)
+    Date,         ///< yyyymmdd as "2026-11-22"
     Text,         ///< the converter writes the caption; `DisplayTags` leaves it alone
 };
 
@@ -94,14 +95,17 @@ struct Relation {
     int only = -1;
 };
 
-/// A value a quantity takes while nothing gives it, unless `unlessKnown` is.
+/// A value a quantity takes while nothing gives it, unless `unlessKnown` is:
+/// `value`, or the value of the quantity `sameAs` when that one is known.
 struct Default {
     int quantity = -1;
     double value = 0;
     int unlessKnown = -1;
+    int sameAs = -1;
 };
 
-using Quantities = std::array<double, 8>; ///< NaN: not known
+/// A page's quantities (at most 12); NaN: not known.
+using Quantities = std::array<double, 12>;
 
 /// A page whose rows are tied by formulas: its relations, and how many of the
 /// newest typed rows count (the degrees of freedom), when its rows are not grouped.

@@ -116,7 +116,11 @@ Report solve(const PageTable& table, PageSheet& page, double x, int inputRow) {
     for (const Default& d : model.defaults) {
         if (!known(q[static_cast<std::size_t>(d.quantity)]) &&
             (d.unlessKnown < 0 || !known(q[static_cast<std::size_t>(d.unlessKnown)]))) {
-            q[static_cast<std::size_t>(d.quantity)] = d.value;
+            const double same = d.sameAs < 0 ? Unknown : q[static_cast<std::size_t>(d.sameAs)];
+            if (d.sameAs >= 0 && !known(same)) {
+                continue;
+            }
+            q[static_cast<std::size_t>(d.quantity)] = d.sameAs < 0 ? d.value : same;
             propagate(model, q);
         }
     }

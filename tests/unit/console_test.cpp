@@ -109,9 +109,12 @@ TEST(Convert, FindsPagesAndRowsByNumberOrName) {
 }
 
 TEST(Convert, ExplainsWhatItCannotDo) {
-    const std::tuple<const char*, const char*, const char*, const char*> cases[] = {
-        {"nowhere", "1", "1", "unknown page: nowhere (a number from 1 to 24, or a page name)"},
-        {"25", "1", "1", "unknown page: 25 (a number from 1 to 24, or a page name)"},
+    const std::string count = std::to_string(pageCatalogue().count());
+    const std::string past = std::to_string(pageCatalogue().count() + 1);
+    const std::string range = " (a number from 1 to " + count + ", or a page name)";
+    const std::tuple<std::string, std::string, std::string, std::string> cases[] = {
+        {"nowhere", "1", "1", "unknown page: nowhere" + range},
+        {past, "1", "1", "unknown page: " + past + range},
         {"wind", "°", "90", "row ° is ambiguous on Wind: give its number"},
         {"angle", "7", "1", "row 7 is not used on Angle"},
         {"weight", "stone", "1", "no row stone on Weight"},
