@@ -41,7 +41,9 @@ inline const int Weight = pageNumber("Weight"), Fluid = pageNumber("Fluid"),
                  WindComp = pageNumber("Wind Comp"), Currency = pageNumber("Currency"),
                  Altitude = pageNumber("Altitude"), Descent = pageNumber("Descent"),
                  Turn = pageNumber("Turn"), FuelPlan = pageNumber("Fuel Plan"),
-                 CloudBase = pageNumber("Cloud Base"), RwyCondition = pageNumber("RWY Condition");
+                 CloudBase = pageNumber("Cloud Base"), RwyCondition = pageNumber("RWY Condition"),
+                 TrueAltitude = pageNumber("True Altitude"), Holding = pageNumber("Holding"),
+                 Sun = pageNumber("Sun");
 } // namespace page
 
 /// Records what the user would see; answers questions and input boxes from queues.

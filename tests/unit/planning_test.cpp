@@ -7,7 +7,8 @@
 namespace zel::test {
 namespace {
 
-using page::Altitude, page::Descent, page::Turn, page::FuelPlan, page::CloudBase;
+using page::Altitude, page::Descent, page::Turn, page::FuelPlan, page::CloudBase,
+    page::TrueAltitude, page::Holding, page::Sun;
 
 TEST(AltitudePage, GivesPressureAndDensityAltitude) {
     const Scenario cases[] = {
@@ -122,6 +123,98 @@ TEST(CloudBasePage, FindsTheBaseFromTheSpread) {
         {"a spread that puts the dew point below -80 °C", CloudBase, "-70@1 20@3",
          "!exclamation Cloud Base: Invalid temperature (range -80 - 60 °C)"},
         {"no negative spread", CloudBase, "-1@3", "!beep"},
+    };
+    check(cases);
+}
+
+TEST(TrueAltitudePage, CorrectsTheAltimeterForTheAirsTemperature) {
+    // Rows: 1 indicated, 2 pressure altitude, 3 station, 4 OAT, 5 ISA deviation,
+    // 6 true altitude ft, 7 in m, 8 correction.
+    const Scenario cases[] = {
+        {"10,000 ft over the sea at -40 °C: 1,311 ft lower", TrueAltitude, "10000@1 0@3 -40@4",
+         "2:10,000.00 | 5:-35.19 | 6:8,688.67 | 7:2,648.31 | 8:-1,311.33"},
+        {"2,600 ft over a 600 ft station, ISA -8", TrueAltitude, "2600@1 600@3 -8@5",
+         "4:1.85 | 6:2,543.46 | 8:-56.54"},
+        {"a pressure altitude of its own", TrueAltitude, "12000@1 10000@2 5000@3 -19@4",
+         "6:11,629.88 | 8:-370.12"},
+        {"standard air: true is indicated", TrueAltitude, "8000@1 0@5", "6:8,000.00 | 8:0.00"},
+        {"warm air: higher than it reads", TrueAltitude, "8000@1 20@5", "8:587.59"},
+        {"at the station the altimeter is right", TrueAltitude, "3000@3 3000@1 -30@4",
+         "6:3,000.00 | 8:0.00"},
+        {"below the station the height scales too", TrueAltitude, "-1000@1 -20@5", "6:-931.07 | 3:0.00"},
+        {"the newest of OAT and deviation counts", TrueAltitude, "5000@1 -10@4 5@5",
+         "4:10.09 | 5=5"},
+        {"no temperature, no true altitude", TrueAltitude, "5000@1", "6: | 7: | 8:"},
+        {"60,001 ft", TrueAltitude, "60001@1",
+         "!exclamation True Altitude: Invalid altitude (range -2000 - 60000 ft)"},
+        {"a station below -2,000 ft", TrueAltitude, "-2001@3",
+         "!exclamation True Altitude: Invalid altitude (range -2000 - 60000 ft)"},
+        {"-81 °C", TrueAltitude, "-81@4",
+         "!exclamation True Altitude: Invalid temperature (range -80 - 60 °C)"},
+        {"the true altitude is a result", TrueAltitude, "5000@1 0@5 4000@6", "6:5,000.00 | !beep"},
+        {"so is the correction", TrueAltitude, "5@8", "!beep"},
+    };
+    check(cases);
+}
+
+TEST(HoldingPage, PicksTheEntryFromTheAngleToTheInboundCourse) {
+    // Rows: 1 inbound, 2 heading, 3 outbound, 4/5 right entry and teardrop
+    // track, 6/7 left, 8 the angle from the inbound course to the heading.
+    const Scenario cases[] = {
+        {"straight in from behind", Holding, "360@1 360@2",
+         "3:180 | 4:Direct | 5: | 6:Direct | 7: | 8:000"},
+        {"north is 360, never 000", Holding, "0@1 90@2", "1:360 | 3:180 | 8:090"},
+        {"a right teardrop 30° off the outbound course", Holding, "90@1 220@2",
+         "3:270 | 4:Teardrop | 5:240 | 6:Parallel | 7: | 8:130"},
+        {"left: 3° past the teardrop's edge", Holding, "270@1 163@2",
+         "4:Parallel | 6:Direct / Teardrop | 7:120 | 8:253"},
+        // Right-hand edges at 110, 180 and 290; left-hand at 70, 180 and 250.
+        {"right 104: direct, 6° from the edge", Holding, "360@1 104@2", "4:Direct"},
+        {"right 105: direct, teardrop allowed", Holding, "360@1 105@2", "4:Direct / Teardrop"},
+        {"right 110: the teardrop begins", Holding, "360@1 110@2", "4:Teardrop / Direct"},
+        {"right 116: teardrop alone", Holding, "360@1 116@2", "4:Teardrop"},
+        {"right 180: still teardrop", Holding, "360@1 180@2", "4:Teardrop / Parallel"},
+        {"right 181: parallel", Holding, "360@1 181@2", "4:Parallel / Teardrop | 5:150"},
+        {"right 289: parallel", Holding, "360@1 289@2", "4:Parallel / Direct"},
+        {"right 290: direct", Holding, "360@1 290@2", "4:Direct / Parallel"},
+        {"right 296: direct alone", Holding, "360@1 296@2", "4:Direct"},
+        {"left 70: direct", Holding, "360@1 70@2", "6:Direct / Parallel"},
+        {"left 71: parallel", Holding, "360@1 71@2", "6:Parallel / Direct"},
+        {"left 179: parallel", Holding, "360@1 179@2", "6:Parallel / Teardrop | 7:210"},
+        {"left 180: teardrop", Holding, "360@1 180@2", "6:Teardrop / Parallel"},
+        {"left 250: teardrop", Holding, "360@1 250@2", "6:Teardrop / Direct"},
+        {"left 256: direct alone", Holding, "360@1 256@2", "6:Direct | 7:"},
+        {"one course alone shows nothing", Holding, "90@1", "3: | 4: | 8:"},
+        {"361°", Holding, "361@1", "!exclamation Holding: Invalid direction (range 0 - 360°)"},
+        {"no negative course", Holding, "-5@1", "!beep"},
+        {"the entries are results", Holding, "90@1 220@2 5@4", "!beep"},
+    };
+    check(cases);
+}
+
+TEST(SunPage, GivesSunriseSunsetAndCivilTwilightInUtc) {
+    // Rows: 1 latitude, 2 longitude, 3 date, 4 civil dawn, 5 sunrise, 6 sunset,
+    // 7 civil dusk, 8 daylight.
+    const Scenario cases[] = {
+        {"Greenwich at midsummer", Sun, "51.4779@1 -0.0015@2 20240621@3",
+         "3:2024-06-21 | 4:02:55 | 5:03:43 | 6:20:21 | 7:21:09 | 8:16:38"},
+        {"Sydney's sunrise falls on the UTC day before", Sun, "-33.8688@1 151.2093@2 20241221@3",
+         "5:18:41 (20 Dec) | 6:09:06"},
+        {"Buenos Aires in June", Sun, "-34.6037@1 -58.3816@2 20240621@3", "5:11:00 | 6:20:51"},
+        {"New York at the equinox", Sun, "40.7128@1 -74.006@2 20240320@3",
+         "5:10:58 | 6:23:09 | 8:12:10"},
+        {"polar night in Svalbard", Sun, "78.2232@1 15.6267@2 20241221@3",
+         "4:No civil dawn | 5:No sunrise | 6:No sunset | 7:No civil dusk | 8:0:00"},
+        {"midnight sun in Svalbard", Sun, "78.2232@1 15.6267@2 20240621@3",
+         "5:No sunrise | 6:No sunset | 8:24:00"},
+        {"the equator at 0°, 0° is a place", Sun, "0@1 0@2 20240320@3", "5:06:04 | 6:18:11"},
+        {"no date: today's", Sun, "51.4779@1 0@2", "3:2026-11-22 | 5:07:29"},
+        {"latitude 91°", Sun, "91@1", "!exclamation Sun: Invalid latitude (range -90 - 90°)"},
+        {"longitude -181°", Sun, "-181@2",
+         "!exclamation Sun: Invalid longitude (range -180 - 180°)"},
+        {"30 February", Sun, "20240230@3", "!exclamation Sun: Invalid date (yyyymmdd)"},
+        {"a date of 6 figures", Sun, "240621@3", "!exclamation Sun: Invalid date (yyyymmdd)"},
+        {"the times are results", Sun, "5@5", "!beep"},
     };
     check(cases);
 }
