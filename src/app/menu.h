@@ -22,9 +22,17 @@
 // rows and the entry stay as they were left.
 //
 // The front end then reads Menu's state (face, title, display, panels, key
-// captions and highlights, the eight rows) and draws it. Everything the platform
-// does for Menu (message boxes, beep, regional symbols, files, HTTP) goes through
-// Platform.
+// highlights, the eight rows with their forms) and draws it in its own way:
+// its own symbols for the operator keys, its own type sizes. Everything the
+// platform does for Menu (message boxes, beep, regional symbols, files, HTTP)
+// goes through Platform.
+//
+// Menu never waits. A question, an input box or an HTTP transfer is a request:
+// the flow that makes it (the rates offered on opening the Currency page,
+// "Rates", "Set") hands over what to do with the answer and returns, and the
+// answer comes back later as an event of the front end, which then draws Menu
+// again. Until it has, busy() is true and Menu takes no other action; the
+// window's boxes are modal, so keys go to the box.
 //
 // Where the handlers live: menu.cpp has the window's and the controls' events
 // and the page switch, keyboard.cpp Form_KeyPress and Form_KeyUp, rowrender.cpp
