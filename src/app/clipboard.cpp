@@ -72,18 +72,30 @@ void Menu::Form_Paste(std::string_view text) {
         return;
     }
     if (textPage()) {
-        // A report's line breaks are blanks, and what the page does not take is
-        // left out; a runway-state group takes its first eight characters.
+        // A pasted report replaces the one typed. Its line breaks are blanks,
+        // and what the page does not take is left out.
         const TextEntry& entry = m_table->text;
         std::string keys;
-        for (char c : text) {
-            const char32_t typed =
-                c == '\r' || c == '\n' || c == '\t' ? U' ' : static_cast<unsigned char>(c);
-            if (entry.accept(typed) != 0 && (entry.limit > 8 || keys.size() < entry.limit)) {
-                keys += static_cast<char>(typed);
+        if (entry.paste != nullptr) {
+            Report refused;
+            const auto taken = entry.paste(text, refused);
+            if (!taken) {
+                show(refused); // the entry stays as it was
+                return;
+            }
+            keys = *taken;
+        } else {
+            for (char c : text) {
+                const char32_t typed =
+                    c == '\r' || c == '\n' || c == '\t' ? U' ' : static_cast<unsigned char>(c);
+                if (entry.accept(typed) != 0) {
+                    keys += static_cast<char>(typed);
+                }
             }
         }
-        const std::size_t room = entry.limit - std::min(entry.limit, charCount(m_pad.inputText()));
+        m_pad.reset(true);
+        m_reportDecoded.clear();
+        const std::size_t room = entry.limit;
         for (std::size_t i = 0; i < std::min(room, keys.size()); ++i) {
             Form_KeyPress(static_cast<unsigned char>(keys[i]));
         }

@@ -54,6 +54,7 @@ void Menu::LabMenu_Click(int index) {
     }
     const bool leavingText = textPage();
     m_table = table;
+    m_reportDecoded.clear();
     m_title = std::string(table->name);
     LoadUnits();
     ResetPage();
@@ -155,7 +156,11 @@ bool Menu::convert(int& inputRow) {
 }
 
 void Menu::decode() {
-    show(m_table->decode(m_sheet, m_pad.inputText()));
+    // Enter on the report just decoded shows its next runway.
+    const std::string& text = m_pad.inputText();
+    m_reportShown = text == m_reportDecoded ? m_reportShown + 1 : 0;
+    m_reportDecoded = text;
+    show(m_table->decode(m_sheet, text, m_reportShown));
 }
 
 void Menu::show(const Report& report) {

@@ -158,6 +158,8 @@ class Menu {
     std::string m_digitsCaption;
     bool m_panelsVisible = true;
     std::array<std::string, 3> m_memoryCaptions{"MRC", "M+", "M-"};
+    std::string m_reportDecoded; ///< the report text last decoded
+    int m_reportShown = 0;       ///< which of its runways is shown
 };
 
 } // namespace zel

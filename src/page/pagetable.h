@@ -135,14 +135,18 @@ inline constexpr float Pi = 3.14159274101257324f;
 /// fault fails the page (`PageSheet::fail`); the rows written before it stay.
 /// A converter that reads a fault and still has a warning to give returns both.
 using NumberConverter = Report (*)(PageSheet& page, double inputValue, int& inputRow);
-/// A text page's decoder: the typed text into the rows' captions.
-using TextDecoder = Report (*)(PageSheet& page, std::string_view text);
+/// A text page's decoder: the typed text into the rows' captions. Of a text
+/// that holds several reports it shows the one numbered `which`, counting round.
+using TextDecoder = Report (*)(PageSheet& page, std::string_view text, int which);
 
 /// What a text page takes from the keyboard: at most `limit` characters, each
 /// as `accept` turns it (upper case, say), or refused when it gives 0.
 struct TextEntry {
     std::size_t limit = 0;
     char32_t (*accept)(char32_t typed) = nullptr;
+    /// What a paste takes from the clipboard's text: the entry, or nothing
+    /// with the refusal in `refused`. Nothing here: the text as it would be typed.
+    std::optional<std::string> (*paste)(std::string_view text, Report& refused) = nullptr;
 };
 
 /// One page: its place in the menu, its rows and the procedure a row click runs.

@@ -10,6 +10,7 @@
 #include <algorithm>
 #include <array>
 #include <functional>
+#include <iterator>
 #include <optional>
 #include <vector>
 
@@ -57,6 +58,10 @@ std::string_view unitOf(bool group, int row) {
 
 bool allDigits(std::string_view text) {
     return std::all_of(text.begin(), text.end(), isDigit);
+}
+
+bool isStateCharacters(std::string_view text) {
+    return std::all_of(text.begin(), text.end(), [](char c) { return isDigit(c) || c == '/'; });
 }
 
 /// The text split at blanks and line breaks; several count as one.
@@ -155,49 +160,127 @@ std::optional<std::pair<std::string, std::string_view>> contaminants(std::string
 
 using Rows = std::array<std::pair<std::string, std::string>, PageSheet::Rows + 1>;
 
-/// A GRF runway report starting at group `at` (its runway designator), with
-/// the assessment time before it if there is one.
-std::optional<Rows> grfReport(const std::vector<std::string_view>& groups, std::size_t at,
-                              const std::string& time) {
-    if (at + 4 > groups.size() || !isRunway(groups[at]) || !isConditionCodes(groups[at + 1])) {
-        return std::nullopt;
+/// A GRF report read whole: its rows and the group after it; or why it cannot be.
+struct GrfRead {
+    Rows rows{};
+    std::size_t next = 0;
+    std::string fault; ///< empty when the report was read whole
+};
+
+/// Two figures and maybe L, C or R: what a runway designator looks like, be
+/// the runway real or not.
+bool looksLikeRunway(std::string_view group) {
+    return group.size() >= 2 && group.size() <= 3 && allDigits(group.substr(0, 2)) &&
+           (group.size() == 2 || std::string_view("LCR").find(group[2]) != std::string_view::npos);
+}
+
+/// Figures and slashes, at least one of each: what condition codes look like.
+bool looksLikeCodes(std::string_view group) {
+    return group.find('/') != std::string_view::npos &&
+           std::any_of(group.begin(), group.end(), isDigit) && isStateCharacters(group);
+}
+
+/// The name of the contaminant that starts `text`: up to a slash or a blank.
+std::string_view firstWord(std::string_view text) {
+    return text.substr(0, std::min(text.find_first_of("/ "), text.size()));
+}
+
+/// The GRF report whose runway designator is group `at`, read strictly.
+GrfRead readGrf(const std::vector<std::string_view>& groups, std::size_t at,
+                const std::string& time) {
+    GrfRead read;
+    auto missing = [&](std::size_t group, std::string_view what) {
+        read.fault = "Report ends after " + std::string(groups[group - 1]) + ": " +
+                     std::string(what) + " missing";
+        return read;
+    };
+    if (!isRunway(groups[at])) {
+        read.fault = "No runway " + std::string(groups[at]);
+        return read;
+    }
+    if (at + 1 >= groups.size()) {
+        return missing(at + 1, "runway condition codes");
+    }
+    if (!isConditionCodes(groups[at + 1])) {
+        read.fault = "Runway condition codes must be three figures 0-6 (" +
+                     std::string(groups[at + 1]) + ")";
+        return read;
+    }
+    if (at + 2 >= groups.size()) {
+        return missing(at + 2, "coverage");
     }
     const auto coverage = listed(groups[at + 2], [](std::string_view p) {
         return p == "NR" || p == "25" || p == "50" || p == "75" || p == "100";
     });
+    if (!coverage) {
+        read.fault = "Coverage must be NR, 25, 50, 75 or 100 for each third (" +
+                     std::string(groups[at + 2]) + ")";
+        return read;
+    }
+    if (at + 3 >= groups.size()) {
+        return missing(at + 3, "depth");
+    }
     const auto depth = listed(groups[at + 3], [](std::string_view p) {
         return p == "NR" || (p.size() >= 2 && p.size() <= 3 && allDigits(p));
     });
+    if (!depth) {
+        read.fault = "Depth must be NR or 2 to 3 figures for each third (" +
+                     std::string(groups[at + 3]) + ")";
+        return read;
+    }
+    if (at + 4 >= groups.size()) {
+        return missing(at + 4, "contaminants");
+    }
     // The contaminants may hold blanks: they are read from the text that follows.
     std::string rest;
     for (std::size_t g = at + 4; g < groups.size(); ++g) {
         rest += (rest.empty() ? "" : " ") + std::string(groups[g]);
     }
     const auto contaminant = contaminants(rest);
-    if (!coverage || !depth || !contaminant) {
-        return std::nullopt;
+    if (!contaminant) {
+        // Name the first of the three that is not known.
+        std::string_view text = rest;
+        for (int third = 0; third < 3; ++third) {
+            const auto known =
+                std::find_if(Contaminants.begin(), Contaminants.end(), [&](const Contaminant& c) {
+                    return text.starts_with(c.name) &&
+                           (text.size() == c.name.size() || text[c.name.size()] == '/' ||
+                            text[c.name.size()] == ' ');
+                });
+            if (known == Contaminants.end() || (third < 2 && text.size() <= known->name.size())) {
+                const std::string_view word = known == Contaminants.end() ? firstWord(text) : "";
+                read.fault = word.empty() ? "Three contaminants, split by /, expected"
+                                          : "Unknown contaminant " + std::string(word);
+                return read;
+            }
+            text.remove_prefix(std::min(known->name.size() + 1, text.size()));
+        }
+        read.fault = "Three contaminants, split by /, expected";
+        return read;
     }
     std::string runway(groups[at]);
+    std::vector<std::string_view> after = groupsOf(contaminant->second);
     // A width in metres after the contaminants: the codes apply to it only.
-    const std::vector<std::string_view> after = groupsOf(contaminant->second);
+    std::size_t widthGroups = 0;
     if (!after.empty() && after[0].size() >= 2 && after[0].size() <= 3 && allDigits(after[0])) {
         runway += " width " + std::string(after[0]) + " m";
+        widthGroups = 1;
     }
+    read.next = groups.size() - after.size() + widthGroups;
     const auto codes = thirds(groups[at + 1]);
-    Rows rows;
-    for (std::size_t row = 1; row < rows.size(); ++row) {
-        rows[row].first = std::string(unitOf(false, static_cast<int>(row)));
+    for (int row = 1; row <= PageSheet::Rows; ++row) {
+        read.rows[static_cast<std::size_t>(row)].first = std::string(unitOf(false, row));
     }
-    rows[1].second = runway;
-    rows[2].second = time;
+    read.rows[1].second = runway;
+    read.rows[2].second = time;
     for (std::size_t third = 0; third < 3; ++third) {
         const auto code = static_cast<std::size_t>((*codes)[third][0] - '0');
-        rows[third + 3].second = std::string(ConditionCodes[code]);
+        read.rows[third + 3].second = std::string(ConditionCodes[code]);
     }
-    rows[6].second = *coverage;
-    rows[7].second = *depth;
-    rows[8].second = contaminant->first;
-    return rows;
+    read.rows[6].second = *coverage;
+    read.rows[7].second = *depth;
+    read.rows[8].second = contaminant->first;
+    return read;
 }
 
 /// The captions of the eight-figure group's page.
@@ -207,10 +290,6 @@ Rows stateRows() {
         rows[static_cast<std::size_t>(row)].first = std::string(unitOf(true, row));
     }
     return rows;
-}
-
-bool isStateCharacters(std::string_view text) {
-    return std::all_of(text.begin(), text.end(), [](char c) { return isDigit(c) || c == '/'; });
 }
 
 /// A METAR runway-state group at `group` on the page: R, the runway, "/",
@@ -254,7 +333,36 @@ bool stateGroup(PageSheet& page, std::string_view group,
 
 } // namespace
 
-Report Convert_RunwayCondition(PageSheet& page, std::string_view text) {
+std::optional<std::string> pasteStateGroup(std::string_view text, Report& refused) {
+    const std::vector<std::string_view> words = groupsOf(text);
+    const bool metar = std::any_of(words.begin(), words.end(), [](std::string_view w) {
+        const auto slash = w.find('/');
+        return w.size() > 2 && w[0] == 'R' && slash != std::string_view::npos &&
+               (slash == 1 || looksLikeRunway(w.substr(1, slash - 1)));
+    });
+    if (metar) {
+        refused = Report::warning("This is a METAR runway group: decode it on RWY Condition");
+        return std::nullopt;
+    }
+    for (std::size_t at = 0; at + 1 < words.size(); ++at) {
+        if (looksLikeRunway(words[at]) && looksLikeCodes(words[at + 1])) {
+            refused = Report::warning(
+                "This is a GRF runway condition report: decode it on RWY Condition");
+            return std::nullopt;
+        }
+    }
+    // Exactly one group of eight figures and slashes, as a whole word.
+    std::vector<std::string_view> eights;
+    std::copy_if(words.begin(), words.end(), std::back_inserter(eights),
+                 [](std::string_view w) { return w.size() == 8 && isStateCharacters(w); });
+    if (eights.size() != 1) {
+        refused = Report::beep();
+        return std::nullopt;
+    }
+    return std::string(eights.front());
+}
+
+Report Convert_RunwayCondition(PageSheet& page, std::string_view text, int which) {
     page.reset();
     const std::vector<std::string_view> groups = groupsOf(text);
     auto show = [&page](const Rows& rows) {
@@ -264,37 +372,84 @@ Report Convert_RunwayCondition(PageSheet& page, std::string_view text) {
         }
         sizeCaptions(page);
     };
-    // A GRF report first, with or without the time of its assessment before
-    // it: a SNOWTAM's heading holds date groups of eight figures too.
-    for (std::size_t at = 0; at < groups.size(); ++at) {
-        const auto time = assessed(groups[at]);
-        if (const auto rows = time ? grfReport(groups, at + 1, *time) : std::nullopt) {
-            show(*rows);
-            return {};
+    auto refuse = [&page](const std::string& why) {
+        for (int row = 1; row <= PageSheet::Rows; ++row) {
+            page[row].unit = std::string(unitOf(false, row));
+            page[row].caption.clear();
         }
-        if (const auto rows = grfReport(groups, at, "")) {
-            show(*rows);
-            return {};
+        return Report::warning(std::string(NotAReport) + (why.empty() ? "" : "\r\r" + why));
+    };
+    // Which of several runways to show: the one asked for, counting round.
+    auto numbered = [&page, which](std::size_t count) {
+        const std::size_t shown = static_cast<std::size_t>(which) % count;
+        if (count > 1) {
+            page[1].caption +=
+                " (" + std::to_string(shown + 1) + " of " + std::to_string(count) + ")";
+            sizeCaptions(page);
         }
+        return shown;
+    };
+
+    // GRF reports: a runway designator followed by condition codes, or by
+    // anything after a date-time of eight figures. Each must be read whole; a
+    // SNOWTAM's heading holds date groups of eight figures too, which are
+    // followed by no runway.
+    std::vector<Rows> reports;
+    for (std::size_t at = 0; at < groups.size();) {
+        const bool dated = groups[at].size() == 8 && allDigits(groups[at]) &&
+                           at + 1 < groups.size() && looksLikeRunway(groups[at + 1]);
+        const bool coded =
+            looksLikeRunway(groups[at]) && at + 1 < groups.size() && looksLikeCodes(groups[at + 1]);
+        if (!dated && !coded) {
+            ++at;
+            continue;
+        }
+        std::string time;
+        if (dated) {
+            const auto when = assessed(groups[at]);
+            if (!when) {
+                return refuse("The assessment time must be MMDDhhmm (" + std::string(groups[at]) +
+                              ")");
+            }
+            time = *when;
+            ++at;
+        }
+        const GrfRead read = readGrf(groups, at, time);
+        if (!read.fault.empty()) {
+            return refuse(read.fault);
+        }
+        reports.push_back(read.rows);
+        at = read.next;
     }
+    if (!reports.empty()) {
+        const Rows& chosen = reports[static_cast<std::size_t>(which) % reports.size()];
+        show(chosen);
+        numbered(reports.size());
+        return {};
+    }
+
+    // METAR runway-state groups, each of them.
+    std::vector<std::string_view> states;
     for (const std::string_view group : groups) {
-        if (stateGroup(page, group, show)) {
-            return {};
+        PageSheet scratch(page.symbols());
+        if (stateGroup(scratch, group, [](const Rows&) {})) {
+            states.push_back(group);
         }
     }
-    // The plain eight-figure group, read as the Snowtam page reads it; a
-    // coverage or depth of a report ("50/50/50") is not one.
-    for (const std::string_view group : groups) {
-        const bool eight = group.size() == 8 && isStateCharacters(group);
-        if (eight && !(thirds(group) && group[2] == '/' && group[5] == '/')) {
-            show(stateRows());
-            return Convert_Snowtam(page, group);
-        }
+    if (!states.empty()) {
+        const std::size_t shown = static_cast<std::size_t>(which) % states.size();
+        stateGroup(page, states[shown], show);
+        numbered(states.size());
+        return {};
     }
-    for (int row = 1; row <= PageSheet::Rows; ++row) {
-        page[row].unit = std::string(unitOf(false, row));
+
+    // The plain eight-figure group, read as the Snowtam page reads it, when
+    // it stands alone.
+    if (groups.size() == 1 && groups[0].size() == 8 && isStateCharacters(groups[0])) {
+        show(stateRows());
+        return Convert_Snowtam(page, groups[0]);
     }
-    return Report::warning(NotAReport);
+    return refuse("");
 }
 
 } // namespace zel

@@ -174,8 +174,9 @@ constexpr std::array<PageTable, 2> Pages{{
                row("Depth of Deposit", Form::Text),
                row("Brake Coefficient", Form::Text),
                row("Braking Action", Form::Text)}},
-     .decode = Convert_Snowtam,
-     .text = {8, groupCharacter},
+     .decode = [](PageSheet& page, std::string_view group,
+                  int) { return Convert_Snowtam(page, group); },
+     .text = {8, groupCharacter, pasteStateGroup},
      .functionKey = 11,
      .keyCaption = "F11"},
     {.number = 24,
@@ -186,7 +187,7 @@ constexpr std::array<PageTable, 2> Pages{{
                row("Rollout", Form::Text), row("Coverage - %", Form::Text),
                row("Depth - mm", Form::Text), row("Contaminant", Form::Text)}},
      .decode = Convert_RunwayCondition,
-     .text = {160, reportCharacter}},
+     .text = {2000, reportCharacter}},
 }};
 
 } // namespace

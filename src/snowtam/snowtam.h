@@ -22,10 +22,19 @@ void writeBraking(PageSheet& page, std::string_view code);
 /// Long decoded texts are drawn at 9 points, so that they fit.
 void sizeCaptions(PageSheet& page);
 
-/// Decodes today's runway condition reports into the page: a GRF runway
-/// report of a SNOWTAM, a METAR runway-state group, or the plain group;
-/// the first one found in the text.
-Report Convert_RunwayCondition(PageSheet& page, std::string_view text);
+/// Decodes today's runway condition reports into the page: the GRF runway
+/// reports of a SNOWTAM, or METAR runway-state groups, or a plain group that
+/// stands alone. A text that looks like a GRF report but cannot be read whole
+/// is refused with the reason, and nothing of it is shown. Of several runways
+/// the one numbered `which` (from 0, counting round) is shown, its runway
+/// row saying "09L (1 of 2)".
+Report Convert_RunwayCondition(PageSheet& page, std::string_view text, int which = 0);
+
+/// What a paste puts into the Snowtam page: the one eight-character group
+/// (figures and "/") the text holds as a whole word. A METAR runway group or
+/// a GRF report is sent to the RWY Condition page with a message; any other
+/// text beeps.
+std::optional<std::string> pasteStateGroup(std::string_view text, Report& refused);
 
 /// The runway-state pages: the eight-digit group, and today's reports.
 std::span<const PageTable> snowtamPages();

@@ -290,16 +290,17 @@ TEST(RunwayCondition, DecodesTodaysReports) {
          "1:09R | 2: | 3:5 Good | 4:2 Medium-Poor | 5:2 Medium-Poor | 6:100 / 50 / 75 | "
          "7:NR / 06 / 06 | 8:Wet / Slush / Slush"},
         {"swea0149 eadd (snowtam 0149 eadd 02170135 27r 6/4/0 25/nr/100 02/nr/120 "
-         "dry/frost/water on top of compacted snow 35 29l 5/5/5",
-         "1:27R width 35 m | 2:02-17 01:35 | 3:6 Dry | 4:4 Good-Medium | 5:0 Less than Poor | "
-         "6:25 / NR / 100 | 7:02 / NR / 120 | 8:Dry / Frost / Water/Compacted"},
+         "dry/frost/water on top of compacted snow 35 29l 5/5/5 100/100/100 nr/nr/nr wet/wet/wet",
+         "1:27R width 35 m (1 of 2) | 2:02-17 01:35 | 3:6 Dry | 4:4 Good-Medium | "
+         "5:0 Less than Poor | 6:25 / NR / 100 | 7:02 / NR / 120 | 8:Dry / Frost / "
+         "Water/Compacted"},
         {"01 3/3/1 50/50/50 10/10/10 SPECIALLY PREPARED WINTER RUNWAY/ICE/WET ICE",
          "8:Prepared Winter / Ice / Wet Ice"},
         {"1 3/3/1 50/50/50 10/10/10 ICE/ICE/ICE", // a coverage is no runway-state group
          "!exclamation RWY Condition: Not a runway condition report"},
         {"R24L/290140", "1:24L | 2:Wet / Water Patches | 4:51% - 100% | 6:01 mm | 7:0.40 | 8:Good"},
         {"METAR EDDF 241220Z R07C/CLRD70 R25/SNOCLO",
-         "1:07C | 2:Contamination cleared | 4: | 7:0.70 | 8:Good"},
+         "1:07C (1 of 2) | 2:Contamination cleared | 4: | 7:0.70 | 8:Good"},
         {"R25R/SNOCLO", "1:25R | 2:Closed by snow"},
         {"X24/290140", "!exclamation RWY Condition: Not a runway condition report"},
         {"R/SNOCLO", "1:All RWY | 2:Closed by snow"},
@@ -307,14 +308,34 @@ TEST(RunwayCondition, DecodesTodaysReports) {
         {"88290140", "1:All RWY | 2:Wet / Water Patches | 7:0.40"},
         {"R99/451295", "1:Previous Report | 2:Dry Snow | 6:12 mm | 7:0.40 - 1.00 | 8:Good"},
         {"02170055 09L 5/5/5 100/100/100 NR/NR/NR WET/WET/WET", "1:09L | 2:02-17 00:55"},
-        {"37L 5/5/5 100/100/100 NR/NR/NR WET/WET/WET", "1: | !exclamation RWY Condition: Not a "
-                                                       "runway condition report"},
-        {"09 7/5/5 100/100/100 NR/NR/NR WET/WET/WET", "!exclamation RWY Condition: Not a runway "
-                                                      "condition report"},
-        {"09 5/5/5 100/100/60 NR/NR/NR WET/WET/WET", "!exclamation RWY Condition: Not a runway "
-                                                     "condition report"},
-        {"09 5/5/5 100/100/100 NR/NR/NR WET/WET/MUD", "!exclamation RWY Condition: Not a runway "
-                                                      "condition report"},
+        // A report that cannot be read whole is refused, and none of it shown.
+        {"02170055 09L 5/5/3", "1: | 2: | !exclamation RWY Condition: Not a runway condition "
+                               "report\r\rReport ends after 5/5/3: coverage missing"},
+        {"02170055 09L 5/5/3 100/100/50 NR/NR/12 WET/WET/SLUHS",
+         "1: | 8: | !exclamation RWY Condition: Not a runway condition report\r\r"
+         "Unknown contaminant SLUHS"},
+        {"02170055 37 5/5/3 100/100/50 NR/NR/12 WET/WET/SLUSH",
+         "1: | !exclamation RWY Condition: Not a runway condition report\r\rNo runway 37"},
+        {"09L 5/5 100/100/50 NR/NR/12 WET/WET/SLUSH",
+         "!exclamation RWY Condition: Not a runway condition report\r\r"
+         "Runway condition codes must be three figures 0-6 (5/5)"},
+        {"09 7/5/5 100/100/100 NR/NR/NR WET/WET/WET",
+         "!exclamation RWY Condition: Not a runway condition report\r\r"
+         "Runway condition codes must be three figures 0-6 (7/5/5)"},
+        {"09 5/5/5 100/100/60 NR/NR/NR WET/WET/WET",
+         "!exclamation RWY Condition: Not a runway condition report\r\r"
+         "Coverage must be NR, 25, 50, 75 or 100 for each third (100/100/60)"},
+        {"09 5/5/5 100/100/100 NR/NR/1 WET/WET/WET",
+         "!exclamation RWY Condition: Not a runway condition report\r\r"
+         "Depth must be NR or 2 to 3 figures for each third (NR/NR/1)"},
+        {"13170055 09L 5/5/5 100/100/100 NR/NR/NR WET/WET/WET",
+         "!exclamation RWY Condition: Not a runway condition report\r\r"
+         "The assessment time must be MMDDhhmm (13170055)"},
+        {"02170055 is a date, 09L 5/5/3 ...", "!exclamation RWY Condition: Not a runway "
+                                              "condition report\r\rCoverage must be NR, 25, "
+                                              "50, 75 or 100 for each third (...)"},
+        // An eight-figure group is read as a runway-state group only alone.
+        {"02170055 LFPG", "!exclamation RWY Condition: Not a runway condition report"},
     };
     for (const auto& [report, expect] : cases) {
         // Typed in any case, decoded with Enter.
@@ -337,12 +358,12 @@ TEST(RunwayCondition, DecodesTodaysReports) {
     }
 }
 
-TEST(RunwayCondition, TakesAReportOfUpTo160Characters) {
+TEST(RunwayCondition, TakesAReportOfUpTo2000Characters) {
     Calculator calc(Dot, page::RwyCondition);
     calc.type("r24l/29-0140");
     EXPECT_EQ(calc.menu.display(), "R24L/290140");
     EXPECT_FALSE(calc.menu.panelsVisible());
-    calc.type(std::string(149, ' '));
+    calc.type(std::string(1989, ' '));
     EXPECT_TRUE(calc.ui.events.empty());
     calc.type("x");
     EXPECT_EQ(calc.ui.events, std::vector<std::string>{"beep"});
@@ -351,6 +372,44 @@ TEST(RunwayCondition, TakesAReportOfUpTo160Characters) {
     EXPECT_EQ(calc.menu.row(2).unit, "Type of Deposit"); // the captions of the group
     calc.menu.LabMenu_Click(page::RwyCondition);
     EXPECT_EQ(calc.menu.row(2).unit, "Assessed - UTC");
+}
+
+TEST(RunwayCondition, EnterShowsEachRunwayOfTheTextInTurn) {
+    Calculator calc(Dot, page::RwyCondition);
+    calc.menu.Form_Paste("02170055 09L 5/5/5 100/100/100 NR/NR/NR WET/WET/WET\r\n"
+                         "02170135 27R 5/2/2 100/50/75 NR/06/06 WET/SLUSH/SLUSH 35");
+    for (const char* runway : {"09L (1 of 2)", "27R width 35 m (2 of 2)", "09L (1 of 2)"}) {
+        calc.menu.Form_KeyUp(key::Enter);
+        EXPECT_EQ(calc.caption(1), runway);
+    }
+    calc.type(" "); // a changed report starts again at its first runway
+    calc.menu.Form_KeyUp(key::Enter);
+    EXPECT_EQ(calc.caption(1), "09L (1 of 2)");
+}
+
+TEST(Paste, OnARunwayPageReplacesTheReportAndTheSnowtamPageTakesOneGroupOnly) {
+    const std::tuple<int, const char*, const char*, const char*> cases[] = {
+        {page::Snowtam, "R24L/290140", "",
+         "exclamation Snowtam: This is a METAR runway group: "
+         "decode it on RWY Condition"},
+        {page::Snowtam, "02170055 09L 5/5/3 100/100/50 NR/NR/12 WET/WET/SLUSH", "",
+         "exclamation Snowtam: This is a GRF runway condition report: decode it on RWY Condition"},
+        {page::Snowtam, "group 88290140 from the tower", "88290140", ""},
+        {page::Snowtam, "88290140 and 24290140", "", "beep"},
+        {page::Snowtam, "8829014", "", "beep"},
+        {page::Snowtam, "a8829014b", "", "beep"},
+        {page::RwyCondition, "r24l/290140", "R24L/290140", ""},
+    };
+    for (const auto& [number, text, entry, told] : cases) {
+        Calculator calc(Dot, number);
+        calc.menu.Form_Paste(text);
+        EXPECT_EQ(calc.menu.scratchPad().inputText(), entry) << text;
+        EXPECT_EQ(calc.lastEvent(), told) << text;
+    }
+    Calculator calc(Dot, page::RwyCondition);
+    calc.type("09L 5/5/5 100/100/100 NR/NR/NR WET/WET/SLUSH");
+    calc.menu.Form_Paste("R24L/290140");
+    EXPECT_EQ(calc.menu.scratchPad().inputText(), "R24L/290140");
 }
 
 } // namespace
