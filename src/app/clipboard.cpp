@@ -16,51 +16,109 @@ std::string without(std::string text, std::string_view symbol) {
     return text;
 }
 
-/// A pasted number as the keys that type it: digits, one "." for the decimal
-/// symbol and a leading "-"; nothing when the text is no number. Either "."
-/// or "," may be the decimal symbol: when both appear the last one is; one
-/// that appears more than once, or the regional grouping symbol standing
-/// before exactly three digits, groups.
-std::optional<std::string> pastedNumber(std::string text, const Symbols& symbols) {
-    for (std::string_view blank :
-         {" ", "\t", "\r", "\n", "\xC2\xA0", "\xE2\x80\xAF", "\xE2\x80\x89"}) {
-        text = without(text, blank);
-    }
-    if (symbols.grouping != "." && symbols.grouping != ",") {
-        text = without(text, symbols.grouping); // an apostrophe, say
-    }
-    std::string keys;
-    if (text.starts_with('-')) {
-        keys = "-";
-        text.erase(0, 1);
-    }
-    const auto dots = std::count(text.begin(), text.end(), '.');
-    const auto commas = std::count(text.begin(), text.end(), ',');
-    char decimal = 0;
-    if (dots > 0 && commas > 0) {
-        decimal = text.find_last_of(".,") == text.rfind('.') ? '.' : ',';
-    } else if (dots + commas == 1) {
-        const char mark = dots == 1 ? '.' : ',';
-        const auto at = text.find(mark);
-        const bool grouping = std::string(1, mark) == symbols.grouping && at >= 1 && at <= 3 &&
-                              text.size() - at - 1 == 3;
-        decimal = grouping ? 0 : mark;
-    }
-    bool seenDecimal = false;
-    for (char c : text) {
-        if (c == decimal && !seenDecimal) {
-            keys += '.';
-            seenDecimal = true;
-        } else if ((c == '.' || c == ',') && c != decimal) {
-            continue; // a grouping symbol
-        } else if (isDigit(c)) {
-            keys += c;
+/// Whether `digits` is a whole number grouped by `mark` in thousands: one to
+/// three figures, then groups of exactly three.
+bool groupedWhole(std::string_view digits, char mark) {
+    std::size_t group = 0;
+    bool first = true;
+    for (char c : digits) {
+        if (c == mark) {
+            if ((first && (group == 0 || group > 3)) || (!first && group != 3)) {
+                return false;
+            }
+            first = false;
+            group = 0;
         } else {
-            return std::nullopt;
+            ++group;
         }
     }
-    if (std::none_of(keys.begin(), keys.end(), isDigit)) {
+    return first ? group > 0 : group == 3;
+}
+
+/// A pasted number as the keys that type it: digits, one "." for the decimal
+/// symbol and a leading "-"; nothing when the text is not one number. A unit
+/// word may follow it ("74.83 kg"). Either "." or "," may be the decimal
+/// symbol: when both appear the last one is, and the other groups thousands;
+/// a mark that appears more than once groups thousands or the text is no
+/// number ("3.4.5", "30.10.2024"); the regional grouping symbol standing
+/// before exactly three figures groups.
+std::optional<std::string> pastedNumber(std::string text, const Symbols& symbols) {
+    for (std::string_view blank : {"\t", "\r", "\n", "\xC2\xA0", "\xE2\x80\xAF", "\xE2\x80\x89"}) {
+        for (auto at = text.find(blank); at != std::string::npos; at = text.find(blank, at)) {
+            text.replace(at, blank.size(), " ");
+        }
+    }
+    if (symbols.grouping != "." && symbols.grouping != "," && symbols.grouping != " ") {
+        text = without(text, symbols.grouping); // an apostrophe, say
+    }
+    // The number: a sign, figures, marks and blanks between figures; then at
+    // most one word that holds no figure (its unit).
+    std::size_t at = text.find_first_not_of(' ');
+    if (at == std::string::npos) {
         return std::nullopt;
+    }
+    std::string keys;
+    if (text[at] == '-') {
+        keys = "-";
+        ++at;
+    }
+    std::string number;
+    std::size_t end = at;
+    while (end < text.size()) {
+        const char c = text[end];
+        const bool blankInside = c == ' ' && end + 1 < text.size() && isDigit(text[end + 1]) &&
+                                 !number.empty() && isDigit(number.back());
+        if (isDigit(c) || c == '.' || c == ',') {
+            number += c;
+        } else if (!blankInside) {
+            break;
+        }
+        ++end;
+    }
+    std::string unit = text.substr(end);
+    unit.erase(0, std::min(unit.size(), unit.find_first_not_of(' ')));
+    unit.erase(unit.find_last_not_of(' ') + 1);
+    if (unit.find(' ') != std::string::npos || std::any_of(unit.begin(), unit.end(), isDigit)) {
+        return std::nullopt; // more than one word, or figures after the number
+    }
+    if (number.empty() || !isDigit(number.front()) || !isDigit(number.back())) {
+        return std::nullopt;
+    }
+    const auto dots = std::count(number.begin(), number.end(), '.');
+    const auto commas = std::count(number.begin(), number.end(), ',');
+    char decimal = 0;
+    char grouping = 0;
+    if (dots > 0 && commas > 0) {
+        decimal = number.find_last_of(".,") == number.rfind('.') ? '.' : ',';
+        grouping = decimal == '.' ? ',' : '.';
+    } else if (dots + commas == 1) {
+        const char mark = dots == 1 ? '.' : ',';
+        const auto place = number.find(mark);
+        const bool groups = std::string(1, mark) == symbols.grouping && place >= 1 && place <= 3 &&
+                            number.size() - place - 1 == 3;
+        (groups ? grouping : decimal) = mark;
+    } else if (dots + commas > 1) {
+        grouping = dots > 0 ? '.' : ',';
+    }
+    const auto point = decimal == 0 ? std::string::npos : number.find(decimal);
+    if (point != std::string::npos && number.find(decimal, point + 1) != std::string::npos) {
+        return std::nullopt; // two decimal symbols
+    }
+    const std::string whole = number.substr(0, point);
+    if (grouping != 0 && !groupedWhole(whole, grouping)) {
+        return std::nullopt;
+    }
+    for (char c : whole) {
+        if (isDigit(c)) {
+            keys += c;
+        }
+    }
+    if (point != std::string::npos) {
+        const std::string fraction = number.substr(point + 1);
+        if (std::any_of(fraction.begin(), fraction.end(), [](char c) { return !isDigit(c); })) {
+            return std::nullopt;
+        }
+        keys += '.' + fraction;
     }
     return keys;
 }
@@ -105,9 +163,21 @@ void Menu::Form_Paste(std::string_view text) {
         return;
     }
     const auto keys = pastedNumber(std::string(text), m_symbols);
-    if (!keys) {
-        m_platform.ui.beep(); // no number: nothing changes
+    if (!keys && text.find_first_not_of(" \t\r\n") == std::string_view::npos) {
+        m_platform.ui.beep(); // an empty clipboard
         return;
+    }
+    if (!keys) {
+        // Not one number: nothing changes, and the user is told what was refused.
+        std::string shown(text.substr(0, 40));
+        std::replace_if(
+            shown.begin(), shown.end(), [](char c) { return c == '\r' || c == '\n'; }, ' ');
+        m_platform.ui.message(MessageIcon::Exclamation, m_title,
+                              "Not a number: " + shown + (text.size() > 40 ? "..." : ""));
+        return;
+    }
+    if (!m_pad.newOperand()) {
+        m_pad.clearEntry(); // a pasted number replaces the entry
     }
     for (char c : *keys) {
         Form_KeyPress(static_cast<unsigned char>(c));

@@ -4,6 +4,8 @@
 
 #include "page/solver.h"
 
+#include <cmath>
+
 namespace zel {
 namespace {
 
@@ -63,6 +65,8 @@ void Menu::LabMenu_Click(int index) {
     if (textPage() || leavingText) {
         // A report is no number: it is not carried to the next page.
         ResetScratchPad();
+    } else {
+        m_pad.carry(); // the entry from the last page gives way to what is typed here
     }
     if (textPage()) {
         m_panelsVisible = false; // a report is typed, not calculated
@@ -130,8 +134,22 @@ void Menu::LabValue_Click(int index) {
             m_platform.ui.beep(); // results only
             return;
         }
+        double value = entry;
+        if (m_table->row(index).form == Form::HoursMinutes) {
+            // A time is typed as hours.minutes: 1.30 is an hour and a half.
+            const double hours = std::trunc(entry);
+            double minutes = (entry - hours) * 100;
+            if (std::fabs(minutes - std::round(minutes)) < 1e-6 && std::round(minutes) != 0) {
+                minutes = std::round(minutes); // 1.30 is read back as 29.999...
+            }
+            if (std::fabs(minutes) >= 60) {
+                m_platform.ui.beep();
+                return;
+            }
+            value = hours + minutes / 60;
+        }
         int inputRow = index;
-        if (!convert(inputRow)) {
+        if (!convert(inputRow, value)) {
             return; // the fault stops the click: the rows and the entry stay as they are
         }
         DisplayTags();
@@ -142,11 +160,10 @@ void Menu::LabValue_Click(int index) {
     }
 }
 
-bool Menu::convert(int& inputRow) {
+bool Menu::convert(int& inputRow, double entry) {
     m_sheet.setToday(m_platform.clock.today());
-    Report report = m_table->hasFormulas()
-                        ? solver::solve(*m_table, m_sheet, m_pad.inputValue(), inputRow)
-                        : m_table->convert(m_sheet, m_pad.inputValue(), inputRow);
+    Report report = m_table->hasFormulas() ? solver::solve(*m_table, m_sheet, entry, inputRow)
+                                           : m_table->convert(m_sheet, entry, inputRow);
     if (const Faulted fault = m_sheet.takeFault(); fault && !report.fault) {
         // The calculation stopped at the fault: nothing it would have said after it counts.
         report = Report{.kind = Report::Kind::None, .text = {}, .fault = fault};

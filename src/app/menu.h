@@ -134,8 +134,8 @@ class Menu {
     void DisplayTags(); // rowrender.cpp
     void ResetScratchPad() { m_pad.reset(textPage()); }
     bool textPage() const { return m_table != nullptr && m_table->isText(); }
-    /// Runs the page's converter on the entry; false when a fault stopped it.
-    bool convert(int& inputRow);
+    /// Runs the page's converter on `entry`; false when a fault stopped it.
+    bool convert(int& inputRow, double entry);
     void decode();
     void pressOperator(int index);
     /// Rings the bell or shows the warning a converter reported.

@@ -5,6 +5,7 @@
 #include "entry/fault.h"
 
 #include <cmath>
+#include <utility>
 
 namespace zel {
 namespace {
@@ -34,6 +35,7 @@ void ScratchPad::reset(bool textPage) {
     m_inputValue = 0;
     m_inputText = textPage ? "" : "0";
     m_typed = false;
+    m_carried = false;
     m_displayCompact = false;
     if (m_newOperand) {
         m_newOperand = false;
@@ -73,6 +75,7 @@ void ScratchPad::redisplay(bool textPage, const Symbols& before) {
 }
 
 ScratchPad::Typed ScratchPad::typeDigit(int digit) {
+    startOver();
     const std::string& dec = m_symbols.decimal;
     // The display takes at most 13 characters after the decimal symbol.
     const auto at = m_display.find(dec);
@@ -100,13 +103,23 @@ ScratchPad::Typed ScratchPad::typeDigit(int digit) {
     return Typed::Digit;
 }
 
+void ScratchPad::startOver() {
+    if (std::exchange(m_carried, false)) {
+        m_inputText = "0";
+        m_inputValue = 0;
+        m_display = "0" + m_symbols.decimal;
+    }
+}
+
 void ScratchPad::typeDecimal() {
+    startOver();
     if (!contains(m_inputText, m_symbols.decimal)) {
         m_inputText += m_symbols.decimal;
     }
 }
 
 void ScratchPad::backspace() {
+    m_carried = false; // the number is being edited now
     if (m_inputText.empty()) {
         return;
     }
@@ -120,6 +133,7 @@ void ScratchPad::backspace() {
 
 void ScratchPad::select(const std::string& text) {
     m_typed = false;
+    m_carried = true;
     m_inputText = text;
     m_inputValue = textValue(text, m_symbols);
     displayValue();
@@ -146,6 +160,7 @@ Faulted ScratchPad::operate(int key) {
         // Minus on an empty entry starts a negative number.
         m_display = "-0" + m_symbols.decimal;
         m_inputText = "-0";
+        m_carried = false;
         return std::nullopt;
     }
     double result = m_inputValue;
@@ -180,6 +195,7 @@ Faulted ScratchPad::operate(int key) {
     m_operatorLit.fill(false);
     if (key == 0) {
         m_newOperand = false;
+        m_carried = true; // a result
     } else if (key <= 3) {
         m_operatorLit.at(static_cast<std::size_t>(key)) = true;
     } else {
@@ -194,6 +210,7 @@ Faulted ScratchPad::memoryKey(int key) {
         if (m_inputValue != m_memory) {
             m_inputValue = m_memory;
             m_inputText = generalText(m_memory, m_symbols);
+            m_carried = true;
         } else {
             m_memory = 0;
         }

@@ -55,6 +55,17 @@ class ScratchPad {
     void backspace();
     /// The entry becomes a stored row value, as text and number.
     void select(const std::string& text);
+    /// The entry is a number the user did not type here (a row's value, a
+    /// recalled memory, a result, an entry brought from another page): the
+    /// next digit or decimal key starts a new number, as on every calculator.
+    /// An operator, a row click or Backspace still works on it.
+    void carry() { m_carried = true; }
+    /// The entry is 0 again; a pending calculation stays.
+    void clearEntry() {
+        m_carried = true;
+        startOver();
+    }
+    bool carried() const { return m_carried; }
 
     /// A character of a text entry (a runway report), at most `limit`
     /// characters. False when the entry is full (the caller beeps).
@@ -70,12 +81,16 @@ class ScratchPad {
     Faulted memoryKey(int key);
 
   private:
+    /// A carried number gives way to the first digit or decimal key.
+    void startOver();
+
     const Symbols& m_symbols;
     std::string m_inputText = "0";
     double m_inputValue = 0;
     bool m_typed = false;
     std::string m_display;
     bool m_displayCompact = false;
+    bool m_carried = false;
     double m_accumulator = 0;
     int m_pendingOperator = 0;
     bool m_newOperand = false;
