@@ -393,7 +393,8 @@ void ConsoleSession::show(const Menu& menu, std::ostream& out) {
 void ConsoleSession::showRow(const Menu& menu, int row, std::ostream& out) {
     const RowCell& cell = menu.row(row);
     out << "row " << row << ' ' << quoted(cell.unit) << ' ' << quoted(cell.caption) << ' '
-        << (cell.compact ? 9 : 12) << ' ' << (cell.input ? "input" : "normal") << '\n';
+        << (cell.compact ? 9 : 12) << ' '
+        << (cell.input ? "input" : cell.isGiven() ? "given" : "normal") << '\n';
 }
 
 void ConsoleSession::showDisplay(const Menu& menu, std::ostream& out) {

@@ -29,6 +29,9 @@ struct RowCell {
     bool computed = false; ///< the value was derived, not typed (Mach - AS temperatures)
     bool held = false;     ///< a value was written, 0 included; "0" alone may mean none
     int given = 0;         ///< when the user typed into it (higher is newer); 0 never
+    /// One of the values the page is worked out from, on a page of formulas:
+    /// the user typed it and it still counts.
+    bool isGiven() const { return given != 0; }
 };
 
 /// Whether a caption is drawn small: a number longer than 14 characters; a

@@ -356,6 +356,11 @@ void MenuWindow::renderRows() {
         ZelFrame* value = m_values[static_cast<std::size_t>(row)];
         value->setCaption(text(cell.caption));
         value->setPointSize(cell.compact ? 9 : 12);
+        // What the user gave stands out from what the page worked out: bold,
+        // with a small mark in the cell's corner.
+        const bool given = cell.isGiven() && !cell.input;
+        value->setBold(given);
+        value->setCornerCaption(given ? QStringLiteral("given") : QString());
         value->setTextColor(colour);
         // A number too long for its cell is drawn in exponent form, after
         // the side or head/tail letter it may carry ("R 1.5E+20").

@@ -139,8 +139,9 @@ ZelFrame::Fit ZelFrame::fit() const {
         font.setPointSizeF(points * m_scale);
         return QFontMetricsF(font).horizontalAdvance(text) <= width;
     };
-    // Smaller first, half a point at a time.
-    const qreal smallest = std::min(m_pointSize, SmallestPoints);
+    // Smaller first, half a point at a time; a text shown by its end (a typed
+    // report) keeps its size, so that it stays readable, and shows its end.
+    const qreal smallest = m_showEnd ? m_pointSize : std::min(m_pointSize, SmallestPoints);
     for (qreal points = m_pointSize; points >= smallest; points -= 0.5) {
         if (fits(m_caption, points)) {
             return {m_caption, points};
