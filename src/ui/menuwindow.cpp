@@ -374,13 +374,15 @@ void MenuWindow::renderRows() {
         ZelFrame* unit = m_units[static_cast<std::size_t>(row)];
         unit->setCaption(text(cell.unit));
         unit->setTextColor(colour);
-        unit->setToolTip(text(cell.unit));
+        // Each row names the key that clicks it.
+        const QString rowTip = QStringLiteral("%1 (Ctrl+%2)").arg(text(cell.unit)).arg(row);
+        unit->setToolTip(cell.unit.empty() ? QString() : rowTip);
         // To a screen reader the row is its unit, with the value it holds.
         value->setAccessibleName(text(cell.unit));
         value->setAccessibleValue(text(cell.caption));
         const bool whole = m_menu.face() != Face::Page || cell.caption.empty() ||
                            !(value->fit().shortened || value->fit().wrapped);
-        value->setToolTip(whole ? text(cell.unit) : text(cell.caption));
+        value->setToolTip(whole ? (cell.unit.empty() ? QString() : rowTip) : text(cell.caption));
         m_bands[static_cast<std::size_t>(row)]->setVisible(cell.input);
     }
 }

@@ -54,7 +54,10 @@ class MenuWindow : public QWidget {
     /// The zoom steps, 100 % to 250 %.
     static constexpr std::array<qreal, 6> Zooms{1.0, 1.25, 1.5, 1.75, 2.0, 2.5};
     qreal zoom() const { return m_zoom; }
+    /// Sets one of the zoom steps, unless the window would then be larger than
+    /// the screen it is on.
     void setZoom(qreal zoom);
+    bool fitsScreen(qreal zoom) const;
     bool night() const { return m_night; }
     void setNight(bool night);
     /// The About box's text: version, keys, settings file, rates, licence.

@@ -49,7 +49,8 @@ void MenuWindow::recallSettings() {
     }
     QSettings memory(memoryPath(m_memoryFile), QSettings::IniFormat);
     const qreal zoom = memory.value(QStringLiteral("zoom"), 1.0).toDouble();
-    m_zoom = std::find(Zooms.begin(), Zooms.end(), zoom) != Zooms.end() ? zoom : 1.0;
+    m_zoom =
+        std::find(Zooms.begin(), Zooms.end(), zoom) != Zooms.end() && fitsScreen(zoom) ? zoom : 1.0;
     const QString palette = memory.value(QStringLiteral("palette")).toString();
     m_nightChosen = !palette.isEmpty();
     m_night = m_nightChosen ? palette == QLatin1String("night") : darkDesktop();
@@ -93,9 +94,25 @@ void MenuWindow::refreshIcons() {
     }
 }
 
+bool MenuWindow::fitsScreen(qreal zoom) const {
+    if (!m_remember || zoom <= 1.0) {
+        return true; // a picture is no window on a screen; 100 % is the least there is
+    }
+    const QScreen* shown = screen() != nullptr ? screen() : QGuiApplication::primaryScreen();
+    if (shown == nullptr) {
+        return true;
+    }
+    // The window with the frame the window manager draws around it.
+    const QSize frame = frameGeometry().size() - geometry().size();
+    const QSize needed = QSize(DesignWidth, m_designHeight) * zoom + frame;
+    const QSize room = shown->availableGeometry().size();
+    return needed.width() <= room.width() && needed.height() <= room.height();
+}
+
 void MenuWindow::setZoom(qreal zoom) {
-    if (std::find(Zooms.begin(), Zooms.end(), zoom) == Zooms.end() || zoom == m_zoom) {
-        return;
+    if (std::find(Zooms.begin(), Zooms.end(), zoom) == Zooms.end() || zoom == m_zoom ||
+        !fitsScreen(zoom)) {
+        return; // a step that would not fit the screen is not taken
     }
     m_zoom = zoom;
     restyle();

@@ -230,10 +230,13 @@ void ZelFrame::paintEvent(QPaintEvent*) {
         p.fillRect(QRectF(line.topLeft() * m_scale, line.size() * m_scale), m_lineColor);
     }
     if (hasFocus()) {
-        // The keyboard's place, visible on the light sheet and the dark keys.
+        // The keyboard's place: amber inside a dark line, so that it shows on
+        // the light sheet, the dark keys and the amber band of the input row.
         QPainterPath ring;
         const qreal inner = std::max<qreal>(r - m_scale, 2);
         ring.addRoundedRect(area.adjusted(m_scale, m_scale, -m_scale, -m_scale), inner, inner);
+        p.setPen(QPen(QColor(0x20, 0x28, 0x30), 4 * m_scale));
+        p.drawPath(ring);
         p.setPen(QPen(QColor(255, 190, 0), 2 * m_scale));
         p.drawPath(ring);
     }

@@ -5,15 +5,19 @@
 #include "fakeplatform.h"
 #include "ui/menuwindow.h"
 #include "ui/qtinteraction.h"
+#include "ui/windowstyle.h"
 
 #include <QAccessible>
 #include <QApplication>
 #include <QClipboard>
 #include <QMenu>
+#include <QScreen>
 #include <QSettings>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
+
+#include <cmath>
 #include <gtest/gtest.h>
 
 namespace zel::test {
@@ -132,7 +136,7 @@ TEST_F(WindowTest, NoDigitIsCutOff) {
     EXPECT_TRUE(fit.shortened);
     EXPECT_TRUE(fit.text.startsWith("2.2") && fit.text.endsWith("E+17")) << fit.text.toStdString();
     EXPECT_EQ(pounds->toolTip(), pounds->caption()); // the whole caption
-    EXPECT_EQ(window.valueCell(3)->toolTip().toStdString(), "metric ton - T");
+    EXPECT_EQ(window.valueCell(3)->toolTip().toStdString(), "metric ton - T (Ctrl+3)");
     EXPECT_FALSE(window.valueCell(3)->fit().shortened);
 }
 
@@ -199,15 +203,14 @@ TEST_F(WindowTest, ScreenReadersFindEveryControlByName) {
         EXPECT_TRUE(!name.isEmpty() || role == QAccessible::StaticText) << role;
         EXPECT_NE(role, QAccessible::Client) << name.toStdString();
     }
-    EXPECT_EQ(window.unitCell(2)->toolTip(), "pound - lbs");
+    EXPECT_EQ(window.unitCell(2)->toolTip(), "pound - lbs (Ctrl+2)"); // the row's key too
 }
 
 TEST_F(WindowTest, ZoomPaletteAndPlaceAreRemembered) {
     key(Qt::Key_Plus, Qt::ControlModifier);
-    key(Qt::Key_Plus, Qt::ControlModifier);
-    EXPECT_EQ(window.zoom(), 1.5);
-    EXPECT_EQ(window.width(), qRound(MenuWindow::DesignWidth * 1.5));
-    EXPECT_EQ(window.pageButton(1)->height(), qRound(57 * 1.5));
+    EXPECT_EQ(window.zoom(), 1.25);
+    EXPECT_EQ(window.width(), qRound(MenuWindow::DesignWidth * 1.25));
+    EXPECT_EQ(window.pageButton(1)->height(), qRound(57 * 1.25));
     key(Qt::Key_N, Qt::ControlModifier | Qt::ShiftModifier);
     EXPECT_TRUE(window.night());
     key(Qt::Key_F1);
@@ -218,7 +221,7 @@ TEST_F(WindowTest, ZoomPaletteAndPlaceAreRemembered) {
     {
         Calculator again;
         MenuWindow second(again.menu, nullptr, memory);
-        EXPECT_EQ(second.zoom(), 1.5);
+        EXPECT_EQ(second.zoom(), 1.25);
         EXPECT_TRUE(second.night());
     }
     key(Qt::Key_0, Qt::ControlModifier);
@@ -228,6 +231,42 @@ TEST_F(WindowTest, ZoomPaletteAndPlaceAreRemembered) {
     Calculator again;
     MenuWindow offScreen(again.menu, nullptr, memory);
     EXPECT_NE(offScreen.pos(), QPoint(-30000, -30000));
+}
+
+TEST_F(WindowTest, ZoomStopsWhereTheWindowWouldNotFitTheScreen) {
+    // The test screen is 800 pixels high: 125 % fits, 150 % (894) would not.
+    const int room = window.screen()->availableGeometry().height();
+    for (int press = 0; press < 5; ++press) {
+        key(Qt::Key_Plus, Qt::ControlModifier);
+    }
+    EXPECT_LE(window.frameGeometry().height(), room);
+    EXPECT_EQ(window.zoom(), 1.25);
+    QSettings(memory, QSettings::IniFormat).setValue("zoom", 2.5); // from a larger screen
+    Calculator again;
+    MenuWindow second(again.menu, nullptr, memory);
+    EXPECT_EQ(second.zoom(), 1.0);
+}
+
+/// The contrast ratio of two colours, as the web's accessibility rules define it.
+double contrast(const QColor& a, const QColor& b) {
+    auto luminance = [](const QColor& c) {
+        auto channel = [](double v) {
+            return v <= 0.03928 ? v / 12.92 : std::pow((v + 0.055) / 1.055, 2.4);
+        };
+        return 0.2126 * channel(c.redF()) + 0.7152 * channel(c.greenF()) +
+               0.0722 * channel(c.blueF());
+    };
+    const double la = luminance(a), lb = luminance(b);
+    return (std::max(la, lb) + 0.05) / (std::min(la, lb) + 0.05);
+}
+
+TEST(Palette, TheInputRowReadsAtFourAndAHalfToOneOnItsBandInEitherPalette) {
+    for (const bool night : {false, true}) {
+        const ZelFrame::Style band = lookStyle(Look::Band, night);
+        for (const QColor& behind : {band.top, band.bottom}) {
+            EXPECT_GE(contrast(textColours(night).input, behind), 4.5) << (night ? "night" : "day");
+        }
+    }
 }
 
 TEST_F(WindowTest, TheAboutBoxTellsVersionKeysSettingsRatesAndLicence) {
