@@ -145,6 +145,7 @@ bool ScratchPad::typeText(char32_t c, std::size_t limit) {
     }
     appendUtf8(m_inputText, c);
     m_display = m_inputText;
+    m_displayCompact = charCount(m_display) > 11; // a long report in smaller type
     return true;
 }
 
@@ -152,6 +153,7 @@ void ScratchPad::backspaceText() {
     if (!m_inputText.empty()) {
         dropLastCharacter(m_inputText);
         m_display = m_inputText;
+        m_displayCompact = charCount(m_display) > 11;
     }
 }
 
