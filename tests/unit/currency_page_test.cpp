@@ -199,6 +199,9 @@ TEST(CurrencyPage, TheInfoKeyNamesTheSourceAndTheDateOfTheRates) {
     none.menu.LabMenu_Click(page::Currency);
     none.menu.LabMEM_Click(2);
     EXPECT_TRUE(none.lastEvent().ends_with("\r\rNo rates stored yet"));
+    none.storage.settings() = "[Rates]\nEUR=1\nDate=2958466\n"; // past 31 December 9999
+    none.menu.LabMEM_Click(2);
+    EXPECT_TRUE(none.lastEvent().ends_with("\r\rNo rates stored yet"));
 }
 
 TEST(CurrencyPage, AMissingRateIsUnknownAndNeverOneToOne) {

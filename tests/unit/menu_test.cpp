@@ -76,7 +76,10 @@ TEST(Window, PagesSetTheirPanelsAndMemoryKeys) {
 TEST(Window, ReopeningAPageBlanksItAndBackToMenuKeepsIt) {
     Calculator calc(Dot, page::Weight);
     calc.enter(2, "165");
+    calc.type("5");
     calc.menu.LabelMenu_Click();
+    EXPECT_EQ(calc.caption(1), "74.83");
+    calc.menu.LabValue_Click(1); // no row is clicked on the menu face
     EXPECT_EQ(calc.caption(1), "74.83");
     calc.menu.LabMenu_Click(page::Weight);
     for (int row = 1; row <= 8; ++row) {

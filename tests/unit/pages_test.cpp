@@ -196,6 +196,7 @@ TEST(WindPage, SolvesTheTriangleAndShowsSidesAndComponents) {
          "1=0 | 4=0"},
         {"no wind along a track flown as planned", Wind, "90@1 100@2 90@3 100@4", "5=0 | 6=0"},
         {"360 and 1 are directions", Wind, "360@1 1@3", "1=360 | 3=1"},
+        {"half a knot of wind is a wind", Wind, "90@1 100@2 360@5 0.5@6", "6=0.5 | 7:R 0.29"},
         {"400 is not", Wind, "400@1",
          "1=0 | !exclamation Wind: Invalid direction (range 1 - 360°)"},
         {"drift is a result", Wind, "5@7", "7=-999 | !beep"},
@@ -308,6 +309,7 @@ TEST(RunwayCondition, DecodesTodaysReports) {
         {"R/SNOCLO", "1:All RWY | 2:Closed by snow"},
         {"SNOCLO", "1:All RWY | 2:Closed by snow"},
         {"88290140", "1:All RWY | 2:Wet / Water Patches | 7:0.40"},
+        {"R2/290140", "!exclamation RWY Condition: Not a runway condition report"},
         {"R99/451295", "1:Previous Report | 2:Dry Snow | 6:12 mm | 7:0.40 - 1.00 | 8:Good"},
         {"02170055 09L 5/5/5 100/100/100 NR/NR/NR WET/WET/WET", "1:09L | 2:02-17 00:55"},
         // A report that cannot be read whole is refused, and none of it shown.

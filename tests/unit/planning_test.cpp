@@ -76,6 +76,7 @@ TEST(TurnPage, GivesBankRateAndRadius) {
     const Scenario cases[] = {
         {"a rate-one turn at 120 kt", Turn, "3@3 120@1",
          "2:18.24 | 4:0.64 | 5:1,179.02 | 6:120.00 | 7:1.05 | 8:2.61"},
+        {"speed and radius give the rate", Turn, "120@1 0.63662@4", "3:3.00 | 2:18.24"},
         {"150 kt with 30° of bank", Turn, "150@1 30@2",
          "3:4.20 | 4:0.57 | 5:1,051.72 | 6:85.63 | 7:1.15 | 8:7.46"},
         {"60° of bank pull 2 g and raise the stall speed by 41 %", Turn, "60@2",
