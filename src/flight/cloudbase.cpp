@@ -53,12 +53,12 @@ double fromMetres(double metres) {
 constexpr std::string_view BadTemperature = "Invalid temperature (range -80 - 60 °C)";
 
 std::optional<std::string_view> saturated(const Quantities& q) {
-    for (double t : {q[Temperature], q[DewPoint]}) {
-        if (t < -80 || t > 60) {
+    for (const std::optional<double>& t : {q[Temperature], q[DewPoint]}) {
+        if (t && (*t < -80 || *t > 60)) {
             return BadTemperature;
         }
     }
-    if (q[Spread] < 0) {
+    if (q[Spread] && *q[Spread] < 0) {
         return "Dew point above temperature";
     }
     return std::nullopt;

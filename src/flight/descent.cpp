@@ -38,7 +38,7 @@ double fromPercent(double percent) {
 constexpr std::string_view BadAngle = "Invalid angle (range 0 - 45°)";
 
 std::optional<std::string_view> steep(const Quantities& q) {
-    if (!std::isnan(q[Gradient]) && !(toAngle(q[Gradient]) < 45)) {
+    if (q[Gradient] && !(toAngle(*q[Gradient]) < 45)) {
         return BadAngle;
     }
     return std::nullopt;

@@ -98,7 +98,7 @@ double fromStallIncrease(double percent) {
 constexpr std::string_view BadBank = "Invalid bank angle (range 0 - 90°)";
 
 std::optional<std::string_view> level(const Quantities& q) {
-    if (!std::isnan(q[Bank]) && !(q[Bank] > 0 && q[Bank] < 90)) {
+    if (q[Bank] && !(*q[Bank] > 0 && *q[Bank] < 90)) {
         return BadBank;
     }
     return std::nullopt;

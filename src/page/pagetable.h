@@ -104,8 +104,8 @@ struct Default {
     int sameAs = -1;
 };
 
-/// A page's quantities (at most 12); NaN: not known.
-using Quantities = std::array<double, 12>;
+/// A page's quantities (at most 12); empty while not known.
+using Quantities = std::array<std::optional<double>, 12>;
 
 /// A page whose rows are tied by formulas: its relations, and how many of the
 /// newest typed rows count (the degrees of freedom), when its rows are not grouped.

@@ -4,26 +4,13 @@
 
 #include <algorithm>
 #include <cmath>
-#include <limits>
 #include <vector>
 
 namespace zel::solver {
 namespace {
 
-constexpr double Unknown = std::numeric_limits<double>::quiet_NaN();
-
-bool known(double v) {
-    return !std::isnan(v);
-}
-
 double apply(double (*f)(double), double v) {
     return f != nullptr ? f(v) : v;
-}
-
-Quantities nothingKnown() {
-    Quantities q;
-    q.fill(Unknown);
-    return q;
 }
 
 } // namespace
@@ -45,9 +32,10 @@ void propagate(const Formulas& formulas, Quantities& q) {
             int unknowns = 0;
             for (int i = 0; i < 3; ++i) {
                 const int quantity = relation.quantities[static_cast<std::size_t>(i)];
-                values[static_cast<std::size_t>(i)] =
-                    quantity < 0 ? 0 : q[static_cast<std::size_t>(quantity)];
-                if (quantity >= 0 && !known(q[static_cast<std::size_t>(quantity)])) {
+                const std::optional<double> value =
+                    quantity < 0 ? 0.0 : q[static_cast<std::size_t>(quantity)];
+                values[static_cast<std::size_t>(i)] = value.value_or(0);
+                if (!value) {
                     missing = i;
                     ++unknowns;
                 }
@@ -88,7 +76,7 @@ Report solve(const PageTable& table, PageSheet& page, double x, int inputRow) {
         const RowSpec& link = table.row(row);
         return apply(link.fromRow, row == inputRow ? x : page.value(row));
     };
-    Quantities q = nothingKnown();
+    Quantities q{};
     std::vector<int> taken;
     for (int row : givens) {
         const RowSpec& link = table.row(row);
@@ -104,7 +92,7 @@ Report solve(const PageTable& table, PageSheet& page, double x, int inputRow) {
         } else {
             Quantities closure = q;
             propagate(model, closure);
-            const bool follows = known(closure[static_cast<std::size_t>(link.quantity)]);
+            const bool follows = closure[static_cast<std::size_t>(link.quantity)].has_value();
             if (follows || static_cast<int>(taken.size()) >= model.freedom) {
                 continue;
             }
@@ -114,13 +102,14 @@ Report solve(const PageTable& table, PageSheet& page, double x, int inputRow) {
     }
     propagate(model, q);
     for (const Default& d : model.defaults) {
-        if (!known(q[static_cast<std::size_t>(d.quantity)]) &&
-            (d.unlessKnown < 0 || !known(q[static_cast<std::size_t>(d.unlessKnown)]))) {
-            const double same = d.sameAs < 0 ? Unknown : q[static_cast<std::size_t>(d.sameAs)];
-            if (d.sameAs >= 0 && !known(same)) {
+        if (!q[static_cast<std::size_t>(d.quantity)] &&
+            (d.unlessKnown < 0 || !q[static_cast<std::size_t>(d.unlessKnown)])) {
+            const std::optional<double> value =
+                d.sameAs < 0 ? d.value : q[static_cast<std::size_t>(d.sameAs)];
+            if (!value) {
                 continue;
             }
-            q[static_cast<std::size_t>(d.quantity)] = d.sameAs < 0 ? d.value : same;
+            q[static_cast<std::size_t>(d.quantity)] = value;
             propagate(model, q);
         }
     }
@@ -136,13 +125,13 @@ Report solve(const PageTable& table, PageSheet& page, double x, int inputRow) {
         if (link.quantity < 0) {
             continue;
         }
-        const double v = q[static_cast<std::size_t>(link.quantity)];
+        const std::optional<double> v = q[static_cast<std::size_t>(link.quantity)];
         if (row == inputRow) {
             page.setValue(row, x);
         } else if (std::find(taken.begin(), taken.end(), row) != taken.end()) {
             continue; // an older given that still counts keeps what was typed
-        } else if (known(v) && std::isfinite(apply(link.toRow, v))) {
-            page.setValue(row, apply(link.toRow, v));
+        } else if (v && std::isfinite(apply(link.toRow, *v))) {
+            page.setValue(row, apply(link.toRow, *v));
         } else {
             page.clear(row);
         }
