@@ -45,6 +45,7 @@ class ZelFrame : public QWidget {
     QString cornerCaption() const { return m_corner; }
     /// Draws the face lit for a moment, as a flash for the bell.
     void setHighlighted(bool on);
+    bool highlighted() const { return m_highlighted; }
 
     /// What a caption too long for the face is drawn as, given how many
     /// significant digits fit: an exponent form such as "2.205E+17".

@@ -260,6 +260,17 @@ double contrast(const QColor& a, const QColor& b) {
     return (std::max(la, lb) + 0.05) / (std::min(la, lb) + 0.05);
 }
 
+TEST_F(WindowTest, TheBellIsSeenAsAFlashOfTheDisplayInEitherPalette) {
+    QtInteraction bell(&window);
+    bell.setFlash([this] { window.flash(); });
+    for (const bool night : {false, true}) {
+        window.setNight(night);
+        bell.beep();
+        EXPECT_TRUE(window.display()->highlighted());
+        EXPECT_TRUE(QTest::qWaitFor([this] { return !window.display()->highlighted(); }, 1000));
+    }
+}
+
 TEST(Palette, TheInputRowReadsAtFourAndAHalfToOneOnItsBandInEitherPalette) {
     for (const bool night : {false, true}) {
         const ZelFrame::Style band = lookStyle(Look::Band, night);
