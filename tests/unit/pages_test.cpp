@@ -18,6 +18,8 @@ TEST(FactorPages, ConvertThroughTheBaseUnit) {
          "8:1.00 | 6:168.00 | 7:5,376.00 | 1:158.99"},
         {"1 kt is 1.851999692 km/h", Speed, "1@2", "1=1.851999692"},
         {"1 statute mile", Distance, "1@4", "3=1.609343871"},
+        {"12 inches are a foot", Distance, "12@8", "7:1.00"},
+        {"1000 ml are a litre", Fluid, "1000@5", "1=1"},
         {"1 hPa is 1 mb", Pressure, "1@3", "4=1"},
         {"1 atmosphere is 1013.25 hPa", Pressure, "1@2", "3=1013.25"},
         {"1 thrust K is 1560 HP", Power, "1@8", "1=1560"},
@@ -156,6 +158,7 @@ TEST(MachAS, ReproducesTheReferenceValues) {
          "2=1.12251650007533"},
         {"35000 ft, SAT -54.3, M 0.78", MachAS, "35000@1 -54.3@3 0.78@2",
          "4=264.328064940256 | 6=250.19274748554 | 8=449.608344410829 | 5=-27.670332"},
+        {"the EAS gives the rest", MachAS, "10000@1 -4.8@3 248.0945@6", "4:250.00 | 8:288.78"},
         {"nothing until a speed is given", MachAS, "10000@1 -4.8@3", "5=0 | 7=1"},
         {"an altitude clears the four speeds", MachAS, "10000@1 -4.8@3 250@4 12000@1",
          "2=0 | 4=0 | 6=0 | 8=0"},
@@ -310,6 +313,14 @@ TEST(RunwayCondition, DecodesTodaysReports) {
         {"SNOCLO", "1:All RWY | 2:Closed by snow"},
         {"88290140", "1:All RWY | 2:Wet / Water Patches | 7:0.40"},
         {"R2/290140", "!exclamation RWY Condition: Not a runway condition report"},
+        {"09L 5/5/5 100/100/100", "!exclamation RWY Condition: Not a runway condition report\r\r"
+                                  "Report ends after 100/100/100: depth missing"},
+        {"09L 5/5/5 100/100/100 NR/NR/NR", "!exclamation RWY Condition: Not a runway condition "
+                                           "report\r\rReport ends after NR/NR/NR: contaminants "
+                                           "missing"},
+        {"02170060 09L 5/5/5 100/100/100 NR/NR/NR WET/WET/WET",
+         "!exclamation RWY Condition: Not a runway condition report\r\r"
+         "The assessment time must be MMDDhhmm (02170060)"},
         {"R99/451295", "1:Previous Report | 2:Dry Snow | 6:12 mm | 7:0.40 - 1.00 | 8:Good"},
         {"02170055 09L 5/5/5 100/100/100 NR/NR/NR WET/WET/WET", "1:09L | 2:02-17 00:55"},
         // A report that cannot be read whole is refused, and none of it shown.

@@ -65,6 +65,8 @@ TEST(DescentPage, RelatesHeightDistanceSpeedAndPath) {
         {"distance and time give the ground speed", Descent, "90@2 12@4", "3:450.00"},
         {"zero is no height", Descent, "0@1", "1: | !beep"},
         {"nor is a negative distance", Descent, "-5@2", "!beep"},
+        {"45° is too steep", Descent, "45@6",
+         "!exclamation Descent: Invalid angle (range 0 - 45°)"},
     };
     check(cases);
     check({"45° is too steep", Descent, "45@6", steep});
