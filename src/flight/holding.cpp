@@ -89,7 +89,6 @@ void showSide(PageSheet& page, int entryRow, int offsetRow, const Entries& entri
         caption += " / " + std::string(EntryNames[static_cast<std::size_t>(*entries.alternative)]);
     }
     page[entryRow].caption = caption;
-    page[entryRow].compact = compactCaption(caption, true);
     const bool teardrop =
         entries.sector == Entry::Teardrop || entries.alternative == Entry::Teardrop;
     if (teardrop) {

@@ -160,8 +160,7 @@ double numberOf(std::chrono::year_month_day day) {
            static_cast<unsigned>(day.day());
 }
 
-void write(PageSheet& page, int row, std::string caption) {
-    page[row].compact = compactCaption(caption, true);
+void setCaption(PageSheet& page, int row, std::string caption) {
     page[row].caption = std::move(caption);
 }
 
@@ -200,13 +199,13 @@ Report Convert_Sun(PageSheet& page, double x, int& inputRow) {
                           Pair{SunriseZenith, Sunrise, Sunset, "No sunrise", "No sunset"}}) {
         const auto rise = event(jd, latitude, longitude, p.zenith, true);
         const auto set = event(jd, latitude, longitude, p.zenith, false);
-        write(page, p.riseRow, rise ? clockText(*rise, day) : p.noRise);
-        write(page, p.setRow, set ? clockText(*set, day) : p.noSet);
+        setCaption(page, p.riseRow, rise ? clockText(*rise, day) : p.noRise);
+        setCaption(page, p.setRow, set ? clockText(*set, day) : p.noSet);
         if (p.zenith == SunriseZenith) {
             const double daylight = rise && set                                      ? *set - *rise
                                     : alwaysAbove(jd, latitude, longitude, p.zenith) ? MinutesPerDay
                                                                                      : 0;
-            write(page, Daylight, hoursText(daylight));
+            setCaption(page, Daylight, hoursText(daylight));
         }
     }
     return {};

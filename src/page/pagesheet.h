@@ -73,7 +73,7 @@ class PageSheet {
     /// a / b; a zero divisor or a result outside the double range fails the
     /// calculation (the result is then NaN, which no row takes).
     double divide(double a, double b);
-    /// `ResetPage`: every value cell empty, tag "0", row colour, 12 points, nothing typed.
+    /// `ResetPage`: every value cell empty, tag "0", row colour, full-size type, nothing typed.
     void reset();
 
     /// Marks the row as typed by the user, newer than every other.

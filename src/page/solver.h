@@ -7,7 +7,7 @@
 #include <array>
 
 /// The pages whose rows are tied by formulas (altitude, descent, turn, fuel
-/// plan, cloud base) are data: quantities, the rows that show each, and
+/// plan, cloud base, true altitude) are data: quantities, the rows that show each, and
 /// relations that give any one of their quantities from the others. One solver
 /// serves them all with the newest-givens rule: the rows the user typed count
 /// newest first, as long as they do not follow from those already taken and

@@ -19,7 +19,7 @@ Report Convert_Snowtam(PageSheet& page, std::string_view group);
 void writeStateGroup(PageSheet& page, std::string_view state);
 /// A braking code BB into rows 7 (coefficient) and 8 (braking action).
 void writeBraking(PageSheet& page, std::string_view code);
-/// Long decoded texts are drawn at 9 points, so that they fit.
+/// Long decoded texts are drawn small, so that they fit.
 void sizeCaptions(PageSheet& page);
 
 /// Decodes today's runway condition reports into the page: the GRF runway
