@@ -4,9 +4,8 @@
 // ways (--convert, --console, --help, --version) need Qt Core only; the
 // window's libraries are loaded from a module when a window opens.
 #include "app/options.h"
-#include "console/console.h"
+#include "console/qtmachine.h"
 #include "platform/modules.h"
-#include "platform/sharedplatform.h"
 
 #include <QCoreApplication>
 
@@ -14,21 +13,8 @@
 
 int main(int argc, char** argv) {
     const zel::Options options = zel::parseOptions(std::vector<std::string>(argv + 1, argv + argc));
-    if (!options.error.empty()) {
-        std::cerr << "error: " << options.error << "\nTry 'zelflightab --help'.\n";
-        return 2;
-    }
-    if (options.help) {
-        std::cout << zel::usage();
-        return 0;
-    }
-    if (options.pages) {
-        std::cout << zel::pageList();
-        return 0;
-    }
-    if (options.version) {
-        std::cout << zel::versionText() << '\n';
-        return 0;
+    if (const auto status = zel::answerAtOnce(options)) {
+        return *status;
     }
     if (!options.console && options.convert.empty()) {
         std::string error;
@@ -45,5 +31,6 @@ int main(int argc, char** argv) {
     if (!shared) {
         return 2;
     }
-    return options.console ? zel::runConsole(options, *shared) : zel::runConvert(options, *shared);
+    const zel::ConsoleMachine machine = zel::consoleMachine(*shared);
+    return options.console ? zel::runConsole(options, machine) : zel::runConvert(options, machine);
 }

@@ -3,7 +3,7 @@
 // The window module: Qt Widgets and Svg, loaded by zelflightab only to open
 // the window or to draw a picture of it.
 #include "app/options.h"
-#include "console/console.h"
+#include "console/qtmachine.h"
 #include "platform/sharedplatform.h"
 #include "ui/menuwindow.h"
 #include "ui/qtinteraction.h"

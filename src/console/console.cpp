@@ -3,10 +3,6 @@
 #include "console/console.h"
 
 #include "app/options.h"
-#include "platform/sharedplatform.h"
-
-#include <QCoreApplication>
-#include <QEventLoop>
 
 #include <array>
 #include <charconv>
@@ -394,7 +390,10 @@ void ConsoleSession::showRow(const Menu& menu, int row, std::ostream& out) {
     const RowCell& cell = menu.row(row);
     out << "row " << row << ' ' << quoted(cell.unit) << ' ' << quoted(cell.caption) << ' '
         << (cell.compact ? 9 : 12) << ' '
-        << (cell.input ? "input" : cell.isGiven() ? "given" : "normal") << '\n';
+        << (cell.input       ? "input"
+            : cell.isGiven() ? "given"
+                             : "normal")
+        << '\n';
 }
 
 void ConsoleSession::showDisplay(const Menu& menu, std::ostream& out) {
@@ -402,24 +401,24 @@ void ConsoleSession::showDisplay(const Menu& menu, std::ostream& out) {
     out << "display " << quoted(menu.display()) << ' ' << (menu.displayCompact() ? 10 : 18) << '\n';
 }
 
-std::unique_ptr<SharedPlatform> startPlatform(const Options& options) {
-    QCoreApplication::setApplicationName(QStringLiteral("zelFLIGHTAB"));
-    QCoreApplication::setApplicationVersion(QString::fromStdString(versionText()));
-    std::string error;
-    auto shared = makeSharedPlatform({options.locale, options.symbols, options.folder}, error);
-    if (!shared) {
-        std::cerr << "error: " << error << '\n';
+std::optional<int> answerAtOnce(const Options& options) {
+    if (!options.error.empty()) {
+        std::cerr << "error: " << options.error << "\nTry 'zelflightab --help'.\n";
+        return 2;
     }
-    return shared;
+    if (options.help) {
+        std::cout << usage();
+    } else if (options.pages) {
+        std::cout << pageList();
+    } else if (options.version) {
+        std::cout << versionText() << '\n';
+    } else {
+        return std::nullopt;
+    }
+    return 0;
 }
 
-void waitForTransfers(const Menu& menu) {
-    while (menu.busy()) {
-        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
-    }
-}
-
-int runConsole(const Options& options, SharedPlatform& shared) {
+int runConsole(const Options& options, const ConsoleMachine& machine) {
     std::ifstream file;
     if (options.file) {
         file.open(*options.file);
@@ -430,14 +429,14 @@ int runConsole(const Options& options, SharedPlatform& shared) {
     }
     std::istream& in = options.file ? static_cast<std::istream&>(file) : std::cin;
     ConsoleInteraction interaction(std::cout);
-    Platform platform = shared.with(interaction);
+    Platform platform = machine.platform(interaction);
     Menu menu(platform);
     ConsoleSession session(menu, interaction, std::cout);
     session.start();
     std::string line;
     for (int number = 1; !session.finished() && std::getline(in, line); ++number) {
         const auto error = session.run(line);
-        waitForTransfers(menu);
+        machine.waitForTransfers(menu);
         if (error) {
             std::cout.flush();
             std::cerr << "error: line " << number << ": " << *error << '\n';
@@ -447,14 +446,14 @@ int runConsole(const Options& options, SharedPlatform& shared) {
     return 0;
 }
 
-int runConvert(const Options& options, SharedPlatform& shared) {
+int runConvert(const Options& options, const ConsoleMachine& machine) {
     ConsoleInteraction interaction(std::cout);
-    Platform platform = shared.with(interaction);
+    Platform platform = machine.platform(interaction);
     Menu menu(platform);
     ConsoleSession(menu, interaction, std::cout).start();
     const auto error =
         convertOnce(menu, options.convert.at(0), options.convert.at(1), options.convert.at(2));
-    waitForTransfers(menu);
+    machine.waitForTransfers(menu);
     if (error) {
         std::cout.flush();
         std::cerr << "error: " << *error << '\n';

@@ -5,6 +5,7 @@
 #include "app/menu.h"
 
 #include <deque>
+#include <functional>
 #include <iosfwd>
 #include <memory>
 #include <optional>
@@ -76,22 +77,24 @@ std::string quoted(std::string_view text);
 std::optional<std::string> convertOnce(Menu& menu, std::string_view page, std::string_view row,
                                        std::string_view value);
 
-struct SharedPlatform;
 struct Options;
 
-/// Names the application and makes the platform pieces the command line asks
-/// for; nothing, having said why on standard error, when it cannot. Needs the
-/// application object.
-std::unique_ptr<SharedPlatform> startPlatform(const Options& options);
+/// What the terminal's ways need of the machine they run on: the platform
+/// pieces around the console's own dialogs, and a wait that lets the transfers
+/// Menu started end, so that a script goes on when their replies are in.
+struct ConsoleMachine {
+    std::function<Platform(Interaction&)> platform;
+    std::function<void(const Menu&)> waitForTransfers;
+};
 
-/// Waits until the transfers that Menu started have ended: a script goes on
-/// when their replies, which come through the application's event loop, are in.
-void waitForTransfers(const Menu& menu);
+/// What the command line answers without a calculator (an error, --help,
+/// --pages, --version): its exit status, having printed it; nothing otherwise.
+std::optional<int> answerAtOnce(const Options& options);
 
 /// `zelflightab --console [FILE]`: runs the commands of FILE (or standard
 /// input); the process exit status.
-int runConsole(const Options& options, SharedPlatform& shared);
+int runConsole(const Options& options, const ConsoleMachine& machine);
 /// `zelflightab --convert PAGE ROW VALUE`: prints the page's eight rows.
-int runConvert(const Options& options, SharedPlatform& shared);
+int runConvert(const Options& options, const ConsoleMachine& machine);
 
 } // namespace zel

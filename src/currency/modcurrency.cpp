@@ -60,8 +60,12 @@ std::string ModCurrency::ReadIni(std::string_view section, std::string_view key)
 bool ModCurrency::WriteIni(std::string_view section, std::string_view key, std::string_view value) {
     // The file is read again under the lock, so that a key another window
     // wrote meanwhile is kept.
+    // The change owns its words: a browser applies it again later, under a
+    // lock that it can only wait for asynchronously.
     const bool saved = m_platform.storage.update(
-        settingsFile(), [&](const FileRead& file) -> std::optional<std::string> {
+        settingsFile(),
+        [section = std::string(section), key = std::string(key),
+         value = std::string(value)](const FileRead& file) -> std::optional<std::string> {
             if (file.status == FileRead::Status::Unreadable) {
                 return std::nullopt; // writing over it would lose what it holds
             }

@@ -3,6 +3,7 @@
 #include "entry/numbertext.h"
 
 #include <algorithm>
+#include <cerrno>
 #include <charconv>
 #include <cmath>
 #include <cstdio>
@@ -103,10 +104,28 @@ std::optional<double> parseAscii(const std::string& ascii) {
     if (!ascii.empty() && *first == '+') {
         ++first;
     }
+#if defined(__cpp_lib_to_chars)
     const auto [end, error] = std::from_chars(first, last, value, std::chars_format::general);
     if (error != std::errc() || end != last || !std::isfinite(value)) {
         return std::nullopt;
     }
+#else
+    // A standard library without the floating-point from_chars (WebAssembly's
+    // libc++). strtod reads the same decimal form where the C locale holds, as
+    // it always does there; it would also skip blanks and read hexadecimal,
+    // which a number typed by a pilot never is.
+    const std::string digits(first, last);
+    if (digits.empty() || isBlank(digits.front()) ||
+        digits.find_first_of("xX") != std::string::npos) {
+        return std::nullopt;
+    }
+    char* end = nullptr;
+    errno = 0;
+    value = std::strtod(digits.c_str(), &end);
+    if (end != digits.c_str() + digits.size() || errno == ERANGE || !std::isfinite(value)) {
+        return std::nullopt;
+    }
+#endif
     return value;
 }
 
@@ -152,6 +171,23 @@ double readPrefix(std::string_view text) {
 }
 
 } // namespace
+
+std::optional<Symbols> symbolsFromPair(std::string_view pair) {
+    // Western, Arabic-Indic, Persian and full-width digits: a digit cannot
+    // stand for a decimal or grouping symbol.
+    const auto digit = [](char32_t c) {
+        return (c >= U'0' && c <= U'9') || (c >= 0x660 && c <= 0x669) ||
+               (c >= 0x6F0 && c <= 0x6F9) || (c >= 0xFF10 && c <= 0xFF19);
+    };
+    std::size_t at = 0;
+    const auto decimal = decodeUtf8(pair, at);
+    const std::size_t split = at;
+    const auto grouping = decimal ? decodeUtf8(pair, at) : std::nullopt;
+    if (!grouping || at != pair.size() || digit(*decimal) || digit(*grouping)) {
+        return std::nullopt;
+    }
+    return Symbols{std::string(pair.substr(0, split)), std::string(pair.substr(split))};
+}
 
 std::string generalText(double value, const Symbols& symbols) {
     return significantText(value, 15, 14, symbols);

@@ -17,6 +17,10 @@ struct Symbols {
     std::string grouping = ",";
 };
 
+/// Splits "DG" (two characters, decimal then grouping) into symbols; nothing
+/// when it is not two characters or either is a digit.
+std::optional<Symbols> symbolsFromPair(std::string_view pair);
+
 /// The general number-to-text conversion of a double, as value tags hold it:
 /// at most 15 significant digits, trailing zeros dropped, plain notation while
 /// the decimal exponent lies in -4..14, otherwise "1.5E-07" / "1E+20"; no grouping.

@@ -89,7 +89,9 @@ class Storage {
     /// Changes a file while holding a lock that every instance of the program
     /// respects: reads it afresh, hands it to `change` and replaces it whole
     /// with the result, so that two windows writing at once never lose each
-    /// other's changes. False when the lock could not be had within 5 seconds
+    /// other's changes. `change` may be called again after update returned
+    /// (a browser waits for its lock asynchronously), so it owns what it uses.
+    /// False when the lock could not be had within 5 seconds
     /// (a lock left by a program that crashed is taken over), when `change`
     /// left the file alone, or when it could not be written.
     virtual bool update(const std::string& path, const Change& change) = 0;

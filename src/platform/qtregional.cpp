@@ -21,12 +21,4 @@ bool QtRegional::isKnownLocale(const std::string& name) {
     return locale.language() != QLocale::C || name == "C" || name == "POSIX";
 }
 
-std::optional<Symbols> symbolsFromPair(const std::string& pair) {
-    const QString text = QString::fromStdString(pair);
-    if (text.size() != 2 || text[0].isDigit() || text[1].isDigit()) {
-        return std::nullopt;
-    }
-    return Symbols{QString(text[0]).toStdString(), QString(text[1]).toStdString()};
-}
-
 } // namespace zel

@@ -28,7 +28,4 @@ class QtRegional : public Regional {
     std::optional<Symbols> m_replacement;
 };
 
-/// Splits "DG" (two characters, decimal then grouping) into symbols.
-std::optional<Symbols> symbolsFromPair(const std::string& pair);
-
 } // namespace zel

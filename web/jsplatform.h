@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 zelFLIGHTAB developers
+#pragma once
+
+// The platform pieces that JavaScript gives, in the browser and under node
+// alike: regional symbols from Intl.NumberFormat, HTTP with fetch, today's
+// date from Date. host.js, run before the program, is the JavaScript side.
+
+#include "host/platform.h"
+
+#include <map>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace zel {
+
+/// The symbols of a named locale ("en_US", "de_DE") or of the browser's own,
+/// or two given characters that replace them.
+class IntlRegional : public Regional {
+  public:
+    IntlRegional() = default;
+    explicit IntlRegional(std::optional<std::string> localeName,
+                          std::optional<Symbols> replacement = std::nullopt)
+        : m_localeName(std::move(localeName)), m_replacement(std::move(replacement)) {}
+
+    Symbols symbols() override;
+
+    /// True when Intl knows the name, or it is "C".
+    static bool isKnownLocale(const std::string& name);
+
+  private:
+    std::optional<std::string> m_localeName;
+    std::optional<Symbols> m_replacement;
+};
+
+/// HTTP with fetch: one transfer of at most 1 MiB, cut after 15 seconds.
+class FetchNetwork : public Network {
+  public:
+    bool connected() override;
+    void get(const std::string& url, Then<HttpReply> then) override;
+    /// A transfer has ended: host.js calls this through the binding.
+    static void ended(int id, const HttpReply& reply);
+    /// How many transfers have not ended.
+    static std::size_t inFlight();
+};
+
+class DateClock : public Clock {
+  public:
+    std::chrono::year_month_day today() override;
+};
+
+/// The settings file as it ships.
+std::string_view shippedSettings();
+/// Puts the shipped settings file in place when there is none; false when it
+/// cannot be written.
+bool placeShippedSettings(Storage& storage);
+
+} // namespace zel
