@@ -110,6 +110,7 @@ function nextBox() {
     return;
   }
   const box = boxOpen;
+  app.dataset.boxes = String(Number(app.dataset.boxes || 0) + 1);
   dialog.dataset.icon = box.icon || '';
   dialog.setAttribute('role', box.kind === 'message' || box.kind === undefined ? 'alertdialog' : 'dialog');
   $('dialog-title').textContent = box.title;
@@ -362,6 +363,7 @@ function render() {
   $('report-entry').hidden = !state.report;
   $('keypad').hidden = state.report;
   $('digits').textContent = state.digits;
+  $('digits').setAttribute('aria-label', `Digits ${state.digits}`);
   for (const key of document.querySelectorAll('.keys .key:not(#clear)')) key.hidden = !state.panels;
   for (const key of document.querySelectorAll('[data-mem]')) {
     const memory = state.memory[Number(key.dataset.mem)];
