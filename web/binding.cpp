@@ -24,25 +24,14 @@ val ui() {
     return val::module_property("zelUi");
 }
 
-std::string iconName(MessageIcon icon) {
-    switch (icon) {
-    case MessageIcon::Exclamation:
-        return "exclamation";
-    case MessageIcon::Critical:
-        return "critical";
-    case MessageIcon::Information:
-        break;
-    }
-    return "information";
-}
-
 /// The page's own modal dialogs, drawn by app.js; an answer comes back
 /// through Calculator::answer.
 class PageInteraction : public Interaction {
   public:
     void beep() override { ui().call<void>("beep"); }
     void message(MessageIcon icon, std::string_view title, std::string_view text) override {
-        ui().call<void>("message", iconName(icon), std::string(title), std::string(text));
+        ui().call<void>("message", std::string(messageIconName(icon)), std::string(title),
+                        std::string(text));
     }
     void ask(const Request& request, Then<const Answer&> then) override {
         const int id = ++m_next;

@@ -24,15 +24,11 @@ std::map<int, Then<HttpReply>>& transfers() {
 
 } // namespace
 
-Symbols IntlRegional::symbols() {
-    if (m_replacement) {
-        return *m_replacement;
-    }
-    if (m_localeName == "C") {
+Symbols IntlRegional::localeSymbols(const std::optional<std::string>& name) {
+    if (name == "C") {
         return {};
     }
-    const val pair =
-        host().call<val>("symbols", m_localeName ? val(*m_localeName) : val::undefined());
+    const val pair = host().call<val>("symbols", name ? val(*name) : val::undefined());
     return {pair[0].as<std::string>(), pair[1].as<std::string>()};
 }
 

@@ -15,23 +15,16 @@
 
 namespace zel {
 
-/// The symbols of a named locale ("en_US", "de_DE") or of the browser's own,
-/// or two given characters that replace them.
-class IntlRegional : public Regional {
+/// Regional symbols from Intl.NumberFormat.
+class IntlRegional : public LocaleRegional {
   public:
-    IntlRegional() = default;
-    explicit IntlRegional(std::optional<std::string> localeName,
-                          std::optional<Symbols> replacement = std::nullopt)
-        : m_localeName(std::move(localeName)), m_replacement(std::move(replacement)) {}
-
-    Symbols symbols() override;
+    using LocaleRegional::LocaleRegional;
 
     /// True when Intl knows the name, or it is "C".
     static bool isKnownLocale(const std::string& name);
 
-  private:
-    std::optional<std::string> m_localeName;
-    std::optional<Symbols> m_replacement;
+  protected:
+    Symbols localeSymbols(const std::optional<std::string>& name) override;
 };
 
 /// HTTP with fetch: one transfer of at most 1 MiB, cut after 15 seconds.

@@ -19,18 +19,6 @@ namespace {
 constexpr std::array<std::string_view, ScratchPad::Operators + 1> OperatorSymbols{
     "", "+", "-", "x", " . ", " . "};
 
-std::string_view iconName(MessageIcon icon) {
-    switch (icon) {
-    case MessageIcon::Information:
-        return "information";
-    case MessageIcon::Exclamation:
-        return "exclamation";
-    case MessageIcon::Critical:
-        return "critical";
-    }
-    return "information";
-}
-
 /// A whole number in [low, high], or nothing.
 std::optional<int> number(std::string_view text, int low, int high) {
     int value = 0;
@@ -182,7 +170,8 @@ void ConsoleInteraction::beep() {
 }
 
 void ConsoleInteraction::message(MessageIcon icon, std::string_view title, std::string_view text) {
-    m_out << "message " << iconName(icon) << ' ' << quoted(title) << ' ' << quoted(text) << '\n';
+    m_out << "message " << messageIconName(icon) << ' ' << quoted(title) << ' ' << quoted(text)
+          << '\n';
 }
 
 std::optional<ConsoleInteraction::Scripted> ConsoleInteraction::nextAnswer() {

@@ -9,10 +9,24 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace zel {
 
 enum class MessageIcon { Information, Exclamation, Critical };
+
+/// "information", "exclamation", "critical": the icon as a front end names it.
+constexpr std::string_view messageIconName(MessageIcon icon) {
+    switch (icon) {
+    case MessageIcon::Exclamation:
+        return "exclamation";
+    case MessageIcon::Critical:
+        return "critical";
+    case MessageIcon::Information:
+        break;
+    }
+    return "information";
+}
 
 /// A box the user must answer before the flow that asked goes on: a Yes/No
 /// question, or an input box.
@@ -57,6 +71,26 @@ class Regional {
   public:
     virtual ~Regional() = default;
     virtual Symbols symbols() = 0;
+};
+
+/// The symbols of a named locale ("en_US", "de_DE") or of the machine's own,
+/// or two given characters that replace them; each platform reads a locale
+/// its own way.
+class LocaleRegional : public Regional {
+  public:
+    explicit LocaleRegional(std::optional<std::string> localeName = std::nullopt,
+                            std::optional<Symbols> replacement = std::nullopt)
+        : m_localeName(std::move(localeName)), m_replacement(std::move(replacement)) {}
+
+    Symbols symbols() final { return m_replacement ? *m_replacement : localeSymbols(m_localeName); }
+
+  protected:
+    /// The symbols of the named locale, or of the machine's own for none.
+    virtual Symbols localeSymbols(const std::optional<std::string>& name) = 0;
+
+  private:
+    std::optional<std::string> m_localeName;
+    std::optional<Symbols> m_replacement;
 };
 
 /// A file as read: its bytes, or why there are none. A file that exists but

@@ -7,12 +7,8 @@
 
 namespace zel {
 
-Symbols QtRegional::symbols() {
-    if (m_replacement) {
-        return *m_replacement;
-    }
-    const QLocale locale =
-        m_localeName ? QLocale(QString::fromStdString(*m_localeName)) : QLocale::system();
+Symbols QtRegional::localeSymbols(const std::optional<std::string>& name) {
+    const QLocale locale = name ? QLocale(QString::fromStdString(*name)) : QLocale::system();
     return {locale.decimalPoint().toStdString(), locale.groupSeparator().toStdString()};
 }
 

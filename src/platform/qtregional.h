@@ -9,23 +9,16 @@
 
 namespace zel {
 
-/// Regional number symbols from QLocale: the system's, or those of a named
-/// locale, or two given characters that replace them.
-class QtRegional : public Regional {
+/// Regional number symbols from QLocale.
+class QtRegional : public LocaleRegional {
   public:
-    QtRegional() = default;
-    explicit QtRegional(std::optional<std::string> localeName,
-                        std::optional<Symbols> replacement = std::nullopt)
-        : m_localeName(std::move(localeName)), m_replacement(std::move(replacement)) {}
-
-    Symbols symbols() override;
+    using LocaleRegional::LocaleRegional;
 
     /// True when QLocale knows the name ("en_US", "de_DE", "fr_CH", "C").
     static bool isKnownLocale(const std::string& name);
 
-  private:
-    std::optional<std::string> m_localeName;
-    std::optional<Symbols> m_replacement;
+  protected:
+    Symbols localeSymbols(const std::optional<std::string>& name) override;
 };
 
 } // namespace zel
