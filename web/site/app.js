@@ -329,10 +329,11 @@ function act(handler) {
 
 // The window's digit rule: a number too long for its cell is drawn smaller,
 // then in exponent form with fewer digits; its whole text is in the title.
-function fit(cell, caption, shortForm) {
+// What is not shown is not measured: a measure lays the page out at once.
+function fit(cell, caption, shortForm, shown) {
   cell.textContent = caption;
   cell.title = '';
-  if (cell.scrollWidth <= cell.clientWidth || !caption) return;
+  if (!shown || !caption || cell.scrollWidth <= cell.clientWidth) return;
   cell.title = caption;
   if (!shortForm) return;
   for (let digits = 15; digits >= 1; --digits) {
@@ -358,7 +359,7 @@ function render() {
   const display = $('display');
   display.classList.toggle('compact', state.displayCompact);
   display.classList.toggle('report', state.report);
-  fit(display, state.display, state.report ? null : (d) => calc.displayShort(d));
+  fit(display, state.display, state.report ? null : (d) => calc.displayShort(d), page);
   if (state.report) display.title = state.display;
   $('report-entry').hidden = !state.report;
   $('keypad').hidden = state.report;
@@ -390,8 +391,8 @@ function render() {
     unit.textContent = cell.unit;
     value.classList.toggle('compact', cell.compact);
     value.classList.remove('wrap');
-    fit(value, cell.caption, page ? (d) => calc.rowShort(row, d) : null);
-    if (state.report && value.scrollWidth > value.clientWidth) value.classList.add('wrap');
+    fit(value, cell.caption, (d) => calc.rowShort(row, d), page && exists);
+    if (page && state.report && value.scrollWidth > value.clientWidth) value.classList.add('wrap');
     button.title = exists ? `${cell.unit} (Ctrl+${row})` : '';
   });
 
@@ -557,7 +558,7 @@ async function start() {
   setUpPalette();
   setUpDialog();
   try {
-    await openFiles();
+    await filesRead;
   } catch (error) {
     // Storage refused (a private window may): the calculator works, and says
     // that nothing will be kept.
@@ -585,7 +586,6 @@ async function start() {
   if ('serviceWorker' in navigator) navigator.serviceWorker.register('sw.js');
 }
 
-// The calculator itself, loaded once this page's side is set.
-const core = document.createElement('script');
-core.src = 'zelflightab.js';
-document.head.append(core);
+// The stored files are read while the WebAssembly loads (zelflightab.js,
+// the next script of the page, finds Module set up here).
+const filesRead = openFiles();
