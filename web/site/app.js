@@ -291,6 +291,8 @@ function build() {
     keypad.append(button);
   }
   $('equals').addEventListener('click', () => act(() => calc.pressOperator(0)));
+  // Decodes the report, and shows its next runway.
+  $('report-enter').addEventListener('click', () => act(() => calc.keyUp(KEY.Enter)));
   for (const key of document.querySelectorAll('[data-op]')) {
     key.addEventListener('click', () => act(() => calc.pressOperator(Number(key.dataset.op))));
   }
@@ -360,12 +362,16 @@ function render() {
   display.classList.toggle('compact', state.displayCompact);
   display.classList.toggle('report', state.report);
   fit(display, state.display, state.report ? null : (d) => calc.displayShort(d), page);
-  if (state.report) display.title = state.display;
+  if (state.report) {
+    display.title = state.display;
+    display.scrollLeft = display.scrollWidth; // the end of the report, where typing goes on
+  }
   $('report-entry').hidden = !state.report;
   $('keypad').hidden = state.report;
+  $('report-enter').hidden = !state.report;
   $('digits').textContent = state.digits;
   $('digits').setAttribute('aria-label', `Digits ${state.digits}`);
-  for (const key of document.querySelectorAll('.keys .key:not(#clear)')) key.hidden = !state.panels;
+  for (const key of document.querySelectorAll('.keys .key:not(#clear):not(#report-enter)')) key.hidden = !state.panels;
   for (const key of document.querySelectorAll('[data-mem]')) {
     const memory = state.memory[Number(key.dataset.mem)];
     key.textContent = memory.caption;

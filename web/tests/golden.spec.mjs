@@ -121,6 +121,8 @@ async function perform(page, command, argument, by) {
     const key = argument === 'enter' ? 'Enter' : argument === 'escape' ? 'Escape' : argument.toUpperCase();
     if (taps && key === 'Enter' && await page.locator('#keypad').isVisible()) {
       await page.tap('#keypad [data-key="enter"]');
+    } else if (taps && key === 'Enter') {
+      await page.tap('#report-enter');
     } else {
       await page.locator('#app').focus();
       await page.keyboard.press(key);
