@@ -192,7 +192,8 @@ class Calculator {
         return s;
     }
 
-    /// The menu's buttons: number, name, icon, F-key, in the menu's order.
+    /// The menu's buttons: number, name, icon, the F-key drawn and the one
+    /// that opens it, in the menu's order.
     val pages() const {
         val list = val::array();
         for (int number = 1; number <= m_menu.pages().count(); ++number) {
@@ -205,6 +206,8 @@ class Calculator {
             p.set("name", std::string(table->name));
             p.set("icon", std::string(table->icon));
             p.set("key", std::string(table->keyCaption));
+            // The key that opens it, which is not always the one drawn.
+            p.set("functionKey", table->functionKey);
             list.call<void>("push", p);
         }
         return list;

@@ -240,8 +240,8 @@ function build() {
       key.textContent = page.key;
       key.setAttribute('aria-hidden', 'true');
       button.append(key);
-      button.setAttribute('aria-keyshortcuts', page.key);
     }
+    if (page.functionKey) button.setAttribute('aria-keyshortcuts', `F${page.functionKey}`);
     button.addEventListener('click', () => act(() => calc.openPage(page.number)));
     pages.append(button);
   }

@@ -75,3 +75,17 @@ export async function answerBoxes(page, answers, by) {
     await settled(page);
   }
 }
+
+/// Replaces the stored settings file, as another tab would.
+export async function storeSettings(page, text) {
+  await page.evaluate((ini) => new Promise((resolve, reject) => {
+    const request = indexedDB.open('zelflightab', 1);
+    request.onerror = () => reject(request.error);
+    request.onsuccess = () => {
+      const put = request.result.transaction('files', 'readwrite').objectStore('files')
+        .put(new TextEncoder().encode(ini), 'zelFLIGHTAB/Tech/zelFLIGHTAB.ini');
+      put.onsuccess = () => resolve();
+      put.onerror = () => reject(put.error);
+    };
+  }), text);
+}

@@ -5,14 +5,14 @@
 import { test, expect } from '@playwright/test';
 import { readFileSync, readdirSync, existsSync } from 'node:fs';
 import { join } from 'node:path';
-import { open, rowLine, displayLine, answerBoxes } from './face.mjs';
+import { open, rowLine, displayLine, answerBoxes, storeSettings } from './face.mjs';
 
 const golden = process.env.ZEL_GOLDEN || join(import.meta.dirname, '../../tests/console');
 
-// What a script needs that a browser does not have: a settings file of its
-// own, other regional symbols, the window's activation.
+// What a script needs that a browser does not have: other regional symbols
+// by hand, the window's activation, the desktop's transfer errors.
 function playable(name, script, expected) {
-  if (existsSync(join(golden, `${name}.ini`))) return 'starts from a settings file of its own';
+  if (name === 'download_refused') return "expects the desktop's own error for a host that is not found";
   if (/^#run:/m.test(script)) return 'runs the command line, not the console';
   if (/^#args:.*--symbols/m.test(script)) return 'sets regional symbols by hand';
   if (/^activate/m.test(script)) return 'activates the window';
@@ -163,6 +163,13 @@ for (const name of scripts) {
       await context.grantPermissions(['clipboard-read', 'clipboard-write']);
       const page = await context.newPage();
       await open(page);
+      const ini = join(golden, `${name}.ini`);
+      if (existsSync(ini)) {
+        // The script's own settings file, stored before the app reads it.
+        await storeSettings(page, readFileSync(ini, 'utf8'));
+        await page.reload();
+        await page.waitForSelector('#app[data-ready="true"]');
+      }
       const { seen, bells } = await play(page, script.split('\n'), by);
       const lines = expectedLines(expected);
       expect(seen).toEqual(lines.filter((l) => l !== 'beep'));
