@@ -37,11 +37,20 @@ export function serve(site, port) {
       response.writeHead(404, { 'Content-Type': 'text/plain' }).end('Not found');
     }
   });
-  return new Promise((resolve) => server.listen(port, '127.0.0.1', () => resolve(server)));
+  return new Promise((resolve, reject) => {
+    server.once('error', reject);
+    server.listen(port, '127.0.0.1', () => resolve(server));
+  });
 }
 
 if (process.argv[1] && import.meta.url === pathToFileURL(process.argv[1]).href) {
   const port = Number(process.argv[3] || 8080);
-  await serve(process.argv[2], port);
+  try {
+    await serve(process.argv[2], port);
+  } catch (error) {
+    console.error(`error: cannot serve on 127.0.0.1:${port}: ${error.code || error.message}` +
+      (error.code === 'EADDRINUSE' ? ` (another port: PORT=${port + 1} scripts/web)` : ''));
+    process.exit(1);
+  }
   console.log(`zelFLIGHTAB on http://127.0.0.1:${port}/`);
 }
