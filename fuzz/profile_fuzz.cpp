@@ -4,6 +4,7 @@
 // written, and every other key, every section and every comment is unchanged.
 #include "check.h"
 #include "currency/profile.h"
+#include "entry/text.h"
 
 #include <algorithm>
 #include <array>
@@ -59,8 +60,11 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t siz
             }
         }
     }
+    // An ANSI file that a write left valid UTF-8 is written wholly as UTF-8:
+    // its comments keep their characters, not their bytes.
+    const bool transcoded = !isUtf8(file) && isUtf8(written);
     for (std::string_view comment : commentLines(file)) {
-        ZEL_CHECK(written.find(comment) != std::string::npos);
+        ZEL_CHECK(transcoded || written.find(comment) != std::string::npos);
     }
     return 0;
 }

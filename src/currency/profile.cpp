@@ -231,6 +231,13 @@ std::string write(std::string_view file, std::string_view section, std::string_v
             out += lines[i].end.empty() ? newline : lines[i].end;
         }
     }
+    // An ANSI file whose only bytes that are not UTF-8 were just written over
+    // would read as UTF-8 from now on, and its other values would change: it
+    // is written wholly as UTF-8 instead, every character kept.
+    if (!isUtf8(file) && isUtf8(out)) {
+        const std::size_t mark = out.starts_with(ByteOrderMark) ? ByteOrderMark.size() : 0;
+        return out.substr(0, mark) + fromWindows1252(std::string_view(out).substr(mark));
+    }
     return out;
 }
 

@@ -67,6 +67,9 @@ TEST(Profile, WritesOneKeyAndKeepsEverythingElse) {
              "[A]\nname=Qu\xE9"
              "bec\n",
              "A", "name", "Z\xC3\xBCrich \xE2\x82\xAC", "[A]\nname=Z\xFCrich \x80\n"},
+            {"an ANSI file that would turn UTF-8 is written as UTF-8, its text kept",
+             "[A]\nname=\xC3\xA9\nrate=\xE9\n", "A", "rate", "1",
+             "[A]\nname=\xC3\x83\xC2\xA9\nrate=1\n"},
         };
     for (const auto& [name, file, section, key, value, expected] : cases) {
         EXPECT_EQ(profile::write(file, section, key, value), expected) << name;
