@@ -235,6 +235,7 @@ test.describe('policy', () => {
     expect(violations).toEqual([]);
     const manifest = await (await request.get('manifest.webmanifest')).json();
     expect(manifest.display).toBe('standalone');
+    expect([manifest.theme_color, manifest.color_scheme_dark.theme_color]).toEqual(['#00457d', '#10161c']);
     for (const icon of manifest.icons.filter((i) => i.type === 'image/png')) {
       expect((await request.get(icon.src)).status()).toBe(200);
     }
