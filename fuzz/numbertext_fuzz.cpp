@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // SPDX-FileCopyrightText: 2026 zelFLIGHTAB developers
 // Number reading in every regional form, and the texts written back from what
-// was read: a tag's general text reads back to itself, a formatted caption reads
-// back to its value within its rounding.
+// was read: a row's full-precision text reads back to the value the row keeps,
+// a formatted value reads back to its value within its rounding.
 #include "check.h"
 #include "entry/numbertext.h"
 
@@ -18,8 +18,7 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t siz
     const Symbols& symbols = Regions[data[0] % 4];
     const std::string_view input = fuzz::text(data + 1, size - 1);
 
-    ZEL_CHECK(std::isfinite(CGetal(input, symbols)));
-    ZEL_CHECK(std::isfinite(textValue(input, symbols)));
+    ZEL_CHECK(std::isfinite(readNumber(input, symbols)));
     const auto value = readRegional(input, symbols);
     if (!value) {
         return 0;
@@ -28,6 +27,8 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t siz
     const std::string general = generalText(*value, symbols);
     const auto again = readRegional(general, symbols);
     ZEL_CHECK(again && generalText(*again, symbols) == general);
+    // What a row keeps is what its full text reads back as.
+    ZEL_CHECK(roundSignificant(*value, 15) == *again);
     static const std::pair<const char*, int> Patterns[] = {
         {"#,#0.00", 2}, {"0", 0}, {"000", 0}, {"#,#0.##############", 14}};
     for (const auto& [pattern, decimals] : Patterns) {

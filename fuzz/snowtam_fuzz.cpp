@@ -16,9 +16,9 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t siz
     if (data[0] % 2 == 0) {
         const Symbols symbols = data[0] % 4 ? test::Dot : test::Comma;
         PageSheet sheet(symbols);
-        Convert_Snowtam(sheet, fuzz::text(data + 1, std::min<std::size_t>(size - 1, 8)));
+        decodeStateGroup(sheet, fuzz::text(data + 1, std::min<std::size_t>(size - 1, 8)));
         for (int row = 1; row <= PageSheet::Rows; ++row) {
-            ZEL_CHECK(sheet[row].compact == compactCaption(sheet[row].caption, true));
+            ZEL_CHECK(!sheet[row].value && isUtf8(sheet[row].text)); // words, never numbers
         }
         return 0;
     }
@@ -27,19 +27,19 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t siz
         const unsigned char c = data[i];
         switch (c) {
         case 0xF0:
-            calc.menu.Form_KeyUp(key::Enter);
+            calc.menu.keyUp({.key = Key::Enter});
             break;
         case 0xF1:
-            calc.menu.Form_KeyUp(key::Escape);
+            calc.menu.keyUp({.key = Key::Escape});
             break;
         case 0xF2:
-            calc.menu.Form_KeyPress(key::Backspace);
+            calc.menu.keyDown({.key = Key::Backspace});
             break;
         default:
             if (c >= 0xF8) {
-                calc.menu.LabValue_Click(c - 0xF7);
+                calc.menu.clickRow(c - 0xF7);
             } else {
-                calc.menu.Form_KeyPress(c);
+                calc.menu.type(c);
             }
         }
         fuzz::checkFinite(calc.menu);

@@ -16,7 +16,7 @@ int main(int argc, char** argv) {
     if (const auto status = zel::answerAtOnce(options)) {
         return *status;
     }
-    if (!options.console && options.convert.empty()) {
+    if (!options.console && options.convert.empty() && !options.loadsheet) {
         std::string error;
         void* entry = zel::modules::load("window", "zelflightab_window_main", error);
         if (entry == nullptr) {
@@ -32,5 +32,8 @@ int main(int argc, char** argv) {
         return 2;
     }
     const zel::ConsoleMachine machine = zel::consoleMachine(*shared);
+    if (options.loadsheet) {
+        return zel::runLoadsheet(options, machine);
+    }
     return options.console ? zel::runConsole(options, machine) : zel::runConvert(options, machine);
 }

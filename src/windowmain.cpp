@@ -78,6 +78,8 @@ int runWindow(zel::SharedPlatform& shared, const zel::Options& options) {
     applyLook(window, options);
     interaction.setParent(&window);
     interaction.setDispatch(dispatch);
+    interaction.setAnswer(
+        [&menu](int request, const zel::Answer& answer) { menu.answer(request, answer); });
     interaction.setFlash([&window] { window.flash(); });
     window.show();
     return QApplication::exec();

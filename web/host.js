@@ -11,6 +11,14 @@ Module.zelHost = {
     return [part('decimal', '.'), part('group', ',')];
   },
 
+  // Where a user sets the number symbols: in a browser its language; on the
+  // machine (the console under node) the desktop's region settings.
+  howToChange() {
+    return typeof window === 'undefined'
+      ? 'You can modify your settings in the region settings of your desktop (Region & Language - Formats).'
+      : "You can modify your settings by putting a language that writes numbers as you want first in your browser's language settings.";
+  },
+
   knownLocale(name) {
     try {
       return Intl.NumberFormat.supportedLocalesOf([name.replace('_', '-')]).length === 1;

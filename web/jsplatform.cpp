@@ -32,6 +32,10 @@ Symbols IntlRegional::localeSymbols(const std::optional<std::string>& name) {
     return {pair[0].as<std::string>(), pair[1].as<std::string>()};
 }
 
+std::string IntlRegional::howToChange() {
+    return host().call<std::string>("howToChange");
+}
+
 bool IntlRegional::isKnownLocale(const std::string& name) {
     return name == "C" || host().call<bool>("knownLocale", name);
 }
@@ -69,10 +73,11 @@ std::chrono::year_month_day DateClock::today() {
 }
 
 bool placeShippedSettings(Storage& storage) {
-    const std::string path =
-        storage.programFolder() + "/" + std::string(TechFolder) + "/" + std::string(SettingsName);
-    return storage.read(path).status != FileRead::Status::Missing ||
-           storage.write(path, shippedSettings());
+    const std::string path = settingsPath(storage.programFolder());
+    if (storage.read(path).status == FileRead::Status::Missing) {
+        storage.write(path, shippedSettings(), [](bool) {});
+    }
+    return true;
 }
 
 } // namespace zel

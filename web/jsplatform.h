@@ -22,6 +22,7 @@ class IntlRegional : public LocaleRegional {
 
     /// True when Intl knows the name, or it is "C".
     static bool isKnownLocale(const std::string& name);
+    std::string howToChange() override;
 
   protected:
     Symbols localeSymbols(const std::optional<std::string>& name) override;
@@ -45,8 +46,7 @@ class DateClock : public Clock {
 
 /// The settings file as it ships.
 std::string_view shippedSettings();
-/// Puts the shipped settings file in place when there is none; false when it
-/// cannot be written.
+/// Puts the shipped settings file in place when there is none.
 bool placeShippedSettings(Storage& storage);
 
 } // namespace zel

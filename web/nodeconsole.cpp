@@ -9,6 +9,7 @@
 
 #include <emscripten/emscripten.h>
 
+#include <algorithm>
 #include <cstdio>
 #include <filesystem>
 #include <fstream>
@@ -38,7 +39,31 @@ class FileStorage : public zel::Storage {
         }
         return {zel::FileRead::Status::Ok, bytes.str()};
     }
-    bool write(const std::string& path, std::string_view bytes) override {
+    void write(const std::string& path, std::string_view bytes, zel::Then<bool> done) override {
+        done(writeFile(path, bytes));
+    }
+    void remove(const std::string& path) override {
+        std::error_code error;
+        fs::remove(path, error);
+    }
+    std::vector<std::string> list(const std::string& folder) override {
+        std::vector<std::string> names;
+        std::error_code error;
+        for (const auto& entry : fs::directory_iterator(folder, error)) {
+            if (entry.is_regular_file(error)) {
+                names.push_back(entry.path().filename().string());
+            }
+        }
+        std::sort(names.begin(), names.end());
+        return names;
+    }
+    void update(const std::string& path, const Change& change, zel::Then<bool> done) override {
+        const auto bytes = change(read(path));
+        done(bytes && writeFile(path, *bytes));
+    }
+
+  private:
+    static bool writeFile(const std::string& path, std::string_view bytes) {
         std::error_code error;
         fs::create_directories(fs::path(path).parent_path(), error);
         const std::string temporary = path + ".new";
@@ -53,16 +78,7 @@ class FileStorage : public zel::Storage {
         fs::rename(temporary, path, error);
         return !error;
     }
-    void remove(const std::string& path) override {
-        std::error_code error;
-        fs::remove(path, error);
-    }
-    bool update(const std::string& path, const Change& change) override {
-        const auto bytes = change(read(path));
-        return bytes && write(path, *bytes);
-    }
 
-  private:
     std::string m_folder;
 };
 
@@ -73,8 +89,8 @@ int main(int argc, char** argv) {
     if (const auto status = zel::answerAtOnce(options)) {
         return *status;
     }
-    if (!options.console && options.convert.empty()) {
-        std::cerr << "error: this build has no window: use --console or --convert\n";
+    if (!options.console && options.convert.empty() && !options.loadsheet) {
+        std::cerr << "error: this build has no window: use --console, --convert or --loadsheet\n";
         return 2;
     }
     std::optional<zel::Symbols> replacement;
@@ -103,8 +119,9 @@ int main(int argc, char** argv) {
                 emscripten_sleep(10);
             }
         }};
-    const int status =
-        options.console ? zel::runConsole(options, machine) : zel::runConvert(options, machine);
+    const int status = options.loadsheet ? zel::runLoadsheet(options, machine)
+                       : options.console ? zel::runConsole(options, machine)
+                                         : zel::runConvert(options, machine);
     std::cout.flush();
     return status;
 }

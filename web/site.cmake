@@ -4,6 +4,14 @@
 # list of every file and a version that changes when any of them does.
 file(MAKE_DIRECTORY ${SITE}/icons)
 file(GLOB sources ${SOURCE}/*)
+# A file the sources no longer have (a module renamed) leaves the site; the
+# calculator's own files and the drawn icons stay.
+file(GLOB written RELATIVE ${SITE} ${SITE}/*)
+foreach(name IN LISTS written)
+    if(NOT EXISTS ${SOURCE}/${name} AND NOT name MATCHES "^(zelflightab\\.(js|wasm)|icon-[0-9]+\\.png|icons)$")
+        file(REMOVE ${SITE}/${name})
+    endif()
+endforeach()
 foreach(source IN LISTS sources)
     get_filename_component(name ${source} NAME)
     if(NOT name STREQUAL "sw.js")

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // SPDX-FileCopyrightText: 2026 zelFLIGHTAB developers
 #include "app/menu.h"
+#include "entry/coordinate.h"
 
 #include <algorithm>
 
@@ -43,7 +44,7 @@ bool groupedWhole(std::string_view digits, char mark) {
 /// number ("3.4.5", "30.10.2024"); the regional grouping symbol standing
 /// before exactly three figures groups.
 std::optional<std::string> pastedNumber(std::string text, const Symbols& symbols) {
-    for (std::string_view blank : {"\t", "\r", "\n", "\xC2\xA0", "\xE2\x80\xAF", "\xE2\x80\x89"}) {
+    for (std::string_view blank : OtherBlanks) {
         for (auto at = text.find(blank); at != std::string::npos; at = text.find(blank, at)) {
             text.replace(at, blank.size(), " ");
         }
@@ -125,44 +126,58 @@ std::optional<std::string> pastedNumber(std::string text, const Symbols& symbols
 
 } // namespace
 
-void Menu::Form_Paste(std::string_view text) {
-    if (busy() || m_face != Face::Page) {
+bool Menu::takeReport(std::string_view text) {
+    // A pasted report replaces the one typed. Its line breaks are blanks,
+    // and what the page does not take is left out.
+    const TextEntry& entry = m_table->text;
+    std::string keys;
+    if (entry.paste != nullptr) {
+        Report refused;
+        const auto taken = entry.paste(text, refused);
+        if (!taken) {
+            show(refused); // the entry stays as it was
+            return false;
+        }
+        keys = *taken;
+    } else {
+        for (char c : text) {
+            const char32_t typed =
+                c == '\r' || c == '\n' || c == '\t' ? U' ' : static_cast<unsigned char>(c);
+            if (entry.accept(typed) != 0) {
+                keys += static_cast<char>(typed);
+            }
+        }
+    }
+    m_pad.reset(true);
+    m_reportDecoded.clear();
+    const std::size_t room = entry.limit;
+    for (std::size_t i = 0; i < std::min(room, keys.size()); ++i) {
+        type(static_cast<unsigned char>(keys[i]));
+    }
+    if (keys.size() > room) {
+        m_platform.ui.beep(); // the rest does not fit
+    }
+    return true;
+}
+
+void Menu::paste(std::string_view text) {
+    if (blocked() || m_face != Face::Page) {
         return;
     }
     if (textPage()) {
-        // A pasted report replaces the one typed. Its line breaks are blanks,
-        // and what the page does not take is left out.
-        const TextEntry& entry = m_table->text;
-        std::string keys;
-        if (entry.paste != nullptr) {
-            Report refused;
-            const auto taken = entry.paste(text, refused);
-            if (!taken) {
-                show(refused); // the entry stays as it was
-                return;
-            }
-            keys = *taken;
-        } else {
-            for (char c : text) {
-                const char32_t typed =
-                    c == '\r' || c == '\n' || c == '\t' ? U' ' : static_cast<unsigned char>(c);
-                if (entry.accept(typed) != 0) {
-                    keys += static_cast<char>(typed);
-                }
-            }
-        }
-        m_pad.reset(true);
-        m_reportDecoded.clear();
-        const std::size_t room = entry.limit;
-        for (std::size_t i = 0; i < std::min(room, keys.size()); ++i) {
-            Form_KeyPress(static_cast<unsigned char>(keys[i]));
-        }
-        if (keys.size() > room) {
-            m_platform.ui.beep(); // the rest does not fit
-        }
+        takeReport(text);
         return;
     }
-    const auto keys = pastedNumber(std::string(text), m_symbols);
+    const bool places = std::any_of(m_table->rows.begin(), m_table->rows.end(),
+                                    [](const RowSpec& r) { return r.form == Form::Latitude; });
+    if (places && pasteCoordinates(text)) {
+        return;
+    }
+    // A number with a unit word, but not a coordinate the reader refused
+    // ("91°N", "0.5°W"): its sign would be lost.
+    const auto keys = places && writtenAsCoordinate(text)
+                          ? std::nullopt
+                          : pastedNumber(std::string(text), m_symbols);
     if (!keys && text.find_first_not_of(" \t\r\n") == std::string_view::npos) {
         m_platform.ui.beep(); // an empty clipboard
         return;
@@ -172,15 +187,99 @@ void Menu::Form_Paste(std::string_view text) {
         std::string shown(text.substr(0, 40));
         std::replace_if(
             shown.begin(), shown.end(), [](char c) { return c == '\r' || c == '\n'; }, ' ');
-        m_platform.ui.message(MessageIcon::Exclamation, m_title,
-                              "Not a number: " + shown + (text.size() > 40 ? "..." : ""));
+        m_requests.message(MessageIcon::Exclamation, title(),
+                           {(places ? "Not a coordinate: " : "Not a number: ") + shown +
+                            (text.size() > 40 ? "..." : "")});
         return;
     }
+    typePasted(*keys);
+}
+
+void Menu::typePasted(std::string_view keys) {
     if (!m_pad.newOperand()) {
         m_pad.clearEntry(); // a pasted number replaces the entry
     }
-    for (char c : *keys) {
-        Form_KeyPress(static_cast<unsigned char>(c));
+    for (char c : keys) {
+        type(static_cast<unsigned char>(c));
+    }
+}
+
+bool Menu::pasteCoordinates(std::string_view text) {
+    const auto read = readCoordinates(text);
+    if (!read) {
+        return false;
+    }
+    // Signed decimal degrees as the keys type them: eight decimals are a
+    // millimetre on the ground.
+    const auto keysOf = [](double degrees) {
+        std::string keys = formatNumber(degrees, "0.########", Symbols{".", ""});
+        return keys == "-0" ? std::string("0") : keys;
+    };
+    if (read->size() == 1) {
+        typePasted(keysOf(read->front().degrees));
+        return true;
+    }
+    // The page's latitude rows, each with the longitude row that follows it
+    // (From, then To): the first pair that is still empty takes the
+    // position, else the last.
+    std::vector<std::pair<int, int>> pairs;
+    for (int row = 1; row < PageSheet::Rows; ++row) {
+        if (m_table->row(row).form == Form::Latitude &&
+            m_table->row(row + 1).form == Form::Longitude) {
+            pairs.emplace_back(row, row + 1);
+        }
+    }
+    if (pairs.empty()) {
+        return false;
+    }
+    const auto empty = std::find_if(pairs.begin(), pairs.end(), [this](auto rows) {
+        return !m_sheet.holds(rows.first) && !m_sheet.holds(rows.second);
+    });
+    const auto [latitude, longitude] = empty != pairs.end() ? *empty : pairs.back();
+    typePasted(keysOf((*read)[0].degrees));
+    clickRow(latitude);
+    if (!blocked()) {
+        typePasted(keysOf((*read)[1].degrees));
+        clickRow(longitude);
+    }
+    return true;
+}
+
+void Menu::writeReport(std::string_view text) {
+    if (blocked() || m_face != Face::Page || !textPage()) {
+        return;
+    }
+    // Each character as its key would type it; the report as it stands is
+    // left alone, so that Enter on it goes on to its next runway.
+    const TextEntry& entry = m_table->text;
+    std::string typed;
+    std::size_t count = 0;
+    bool full = false;
+    for (std::size_t at = 0; at < text.size();) {
+        if (const char32_t c = entry.accept(nextCharacter(text, at)); c != 0) {
+            full = full || count == entry.limit;
+            if (!full) {
+                appendUtf8(typed, c);
+                ++count;
+            }
+        }
+    }
+    if (typed != m_pad.inputText()) {
+        m_pad.reset(true);
+        m_reportDecoded.clear();
+        for (std::size_t at = 0; at < typed.size();) {
+            m_pad.typeText(nextCharacter(typed, at), entry.limit);
+        }
+    }
+    if (full) {
+        m_platform.ui.beep(); // the report is as long as it can be
+    }
+}
+
+void Menu::enterReport(std::string_view text) {
+    writeReport(text);
+    if (!blocked() && m_face == Face::Page && textPage()) {
+        decode();
     }
 }
 
@@ -192,17 +291,24 @@ std::string Menu::displayNumber() const {
 }
 
 std::string Menu::rowText(int row) const {
-    const RowCell& cell = m_sheet[row];
-    if (m_table == nullptr || m_table->row(row).form == Form::Text) {
-        return cell.caption;
+    if (m_table == nullptr) {
+        return {};
     }
-    return without(cell.caption, m_symbols.grouping);
+    RowView shown;
+    rowView(row, shown);
+    return m_table->row(row).form == Form::Text ? shown.value
+                                                : without(shown.value, m_symbols.grouping);
 }
 
 std::string Menu::pageText() const {
-    std::string text = m_title + "\n";
+    if (loadingPage()) {
+        // The loading sheet as it prints.
+        const balance::LoadingView sheet = m_balance.view(m_symbols, m_platform.clock.today());
+        return sheet.heading + "\n" + sheet.sheet;
+    }
+    std::string text = title() + "\n";
     for (int row = 1; row <= PageSheet::Rows; ++row) {
-        if (!m_sheet[row].unit.empty()) {
+        if (m_sheet.exists(row)) {
             text += m_sheet[row].unit + "\t" + rowText(row) + "\n";
         }
     }

@@ -13,84 +13,85 @@ constexpr std::string_view AppTitle = "zelFLIGHTAB";
 
 } // namespace
 
-Menu::Menu(Platform& platform, const PageCatalogue& pages)
-    : m_platform(platform), m_pages(pages), m_title(AppTitle) {
-    showDigits();
+Menu::Menu(Platform& platform, const PageCatalogue& pages) : m_platform(platform), m_pages(pages) {}
+
+std::string Menu::title() const {
+    return m_face == Face::Page && m_table != nullptr ? std::string(m_table->name)
+                                                      : std::string(AppTitle);
 }
 
-void Menu::Form_Load() {
-    // The window's size, cursors and the menu face are the front end's to draw;
-    // no page is loaded until one is chosen.
+void Menu::start() {
+    // The window's size and look are the face's to draw; no page is loaded
+    // until one is chosen.
     m_face = Face::Menu;
 }
 
-void Menu::Form_Activate() {
+void Menu::activate() {
     const Symbols before = m_symbols;
     m_symbols = m_platform.regional.symbols();
     if (m_symbols.grouping.empty() || m_symbols.grouping == m_symbols.decimal) {
         const std::string& s = m_symbols.decimal;
-        m_platform.ui.message(
+        m_requests.message(
             MessageIcon::Information, "Format Numbers",
-            "The 'decimal symbol' and the 'digit grouping symbol'  on this computer are set-up the "
-            "same.\r\r(e.g. standard atmosphere is displayed as 1" +
-                s + "013" + s +
-                "25)\r\rThis causes calculations to be incorrectly displayed.  We recommended you "
-                "to change your settings into  1,013.25  or  1.013,25\r\rYou can modify your "
-                "settings via the Windows - Control Panel - Regional and Language Settings - "
-                "Numbers tab.");
+            {"The 'decimal symbol' and the 'digit grouping symbol'  on this computer are set-up "
+             "the same.",
+             "(e.g. standard atmosphere is displayed as 1" + s + "013" + s + "25)",
+             "This causes calculations to be incorrectly displayed.  We recommended you to "
+             "change your settings into  1,013.25  or  1.013,25",
+             m_platform.regional.howToChange()});
     }
     // The entry as it stands, in today's symbols: a number typed before the
     // user switched windows is still the one a row click takes ("0." at start).
     m_pad.redisplay(textPage(), before);
-    showDigits();
 }
 
-void Menu::Form_QueryUnload() {
+void Menu::close() {
     m_platform.ui.quit();
 }
 
-void Menu::LabMenu_Click(int index) {
-    const PageTable* table = m_pages.find(index);
-    if (busy() || table == nullptr) {
-        return;
+bool Menu::openPage(std::string_view numberOrName) {
+    return openPage(m_pages.numberOf(m_pages.find(numberOrName)));
+}
+
+bool Menu::openPage(int number) {
+    const PageTable* table = m_pages.find(number);
+    if (blocked() || table == nullptr) {
+        return false;
     }
     const bool leavingText = textPage();
     m_table = table;
     m_reportDecoded.clear();
-    m_title = std::string(table->name);
-    LoadUnits();
-    ResetPage();
-    m_panelsVisible = true;
-    m_memoryCaptions = {"MRC", "M+", "M-"};
+    m_refusal.clear();
+    m_sheet.reset();
+    loadUnits();
     if (textPage() || leavingText) {
         // A report is no number: it is not carried to the next page.
-        ResetScratchPad();
+        clearEntry();
     } else {
         m_pad.carry(); // the entry from the last page gives way to what is typed here
     }
-    if (textPage()) {
-        m_panelsVisible = false; // a report is typed, not calculated
-    } else if (table->rateStore) {
-        m_memoryCaptions = {"Rates", "Set", "i"};
-    }
     m_face = Face::Page;
+    if (m_table->loading) {
+        m_balance.open();
+    }
+    return true;
 }
 
-void Menu::LabelMenu_Click() {
-    if (!busy()) {
+void Menu::goBack() {
+    if (!blocked()) {
         m_face = Face::Menu;
     }
 }
 
-void Menu::LoadUnits() {
+void Menu::loadUnits() {
     for (int row = 1; row <= PageSheet::Rows; ++row) {
         const RowSpec& shape = m_table->row(row);
         m_sheet.setFactor(row, shape.factor);
         m_sheet[row].unit = std::string(shape.unit);
     }
     if (m_table->rateStore) {
-        m_sheet[PageSheet::Rows].unit = m_currency.ownCurrencyCaption();
-        m_currency.LoadRates(m_symbols, [this](const ModCurrency::Rates& rates) {
+        m_sheet[PageSheet::Rows].unit = m_rates.ownCurrencyUnit();
+        m_rates.loadRates(m_symbols, [this](const RateStore::Rates& rates) {
             for (int row = 1; row <= PageSheet::Rows; ++row) {
                 m_sheet.setFactor(row, rates[static_cast<std::size_t>(row - 1)]);
             }
@@ -98,38 +99,44 @@ void Menu::LoadUnits() {
     }
 }
 
-void Menu::ResetPage() {
-    m_sheet.reset();
-}
-
-void Menu::SetButtonColor(int index) {
+void Menu::markInputRow(int input) {
     for (int row = 1; row <= PageSheet::Rows; ++row) {
-        m_sheet[row].input = row == index;
+        m_sheet[row].input = row == input;
     }
 }
 
-void Menu::LabValue_Click(int index) {
-    if (busy() || m_face != Face::Page || index < 1 || index > PageSheet::Rows) {
+void Menu::clickRow(int index) {
+    const int rows =
+        m_table != nullptr && m_table->loading ? m_balance.entryCount() : PageSheet::Rows;
+    if (blocked() || m_face != Face::Page || index < 1 || index > rows) {
         return;
     }
+    m_refusal.clear();
     if (textPage()) {
-        decode(); // every cell decodes the typed report
+        decode(); // every row decodes the typed report
+        return;
+    }
+    if (m_table->loading) {
+        clickEntry(index);
         return;
     }
     if (!m_sheet.exists(index)) {
         return;
     }
-    if (m_pad.pendingOperator() > 0) {
+    if (m_pad.pending()) {
         // A row click ends an unfinished calculation with the visible number.
         m_pad.dropPending();
-        pressOperator(0);
+        operate(Operator::Equals);
     }
-    const double shown = m_sheet.value(index);
     const double entry = m_pad.inputValue();
-    // Where a typed zero is a value, typing into a row always gives it; elsewhere
-    // a zero entry, or the row's own value, only selects the row.
-    const bool differs = entry != 0 && entry != shown;
-    if (differs || (m_table->zeroIsValue && m_pad.typed())) {
+    // A typed number goes into the row, 0 included; on a page of formulas
+    // even the value the row holds, which makes it the newest given. A
+    // number not typed here (a result, a recalled memory) goes into a row
+    // that holds another; anything else only selects the row.
+    const bool holdsEntry = m_sheet.holds(index) && m_sheet.value(index) == entry;
+    const bool take =
+        m_pad.typed() ? !holdsEntry || m_table->hasFormulas() : entry != 0 && !holdsEntry;
+    if (take) {
         if (m_table->outputOnly(index)) {
             m_platform.ui.beep(); // results only
             return;
@@ -144,6 +151,7 @@ void Menu::LabValue_Click(int index) {
             }
             if (std::fabs(minutes) >= 60) {
                 m_platform.ui.beep();
+                m_refusal = m_pad.display() + " refused: minutes under 60";
                 return;
             }
             value = hours + minutes / 60;
@@ -152,21 +160,30 @@ void Menu::LabValue_Click(int index) {
         if (!convert(inputRow, value)) {
             return; // the fault stops the click: the rows and the entry stay as they are
         }
-        DisplayTags();
-        SetButtonColor(inputRow);
+        clearEntry();
+        markInputRow(inputRow);
     } else {
-        SetButtonColor(index);
-        m_pad.select(m_sheet[index].tag);
+        markInputRow(index);
+        m_pad.select(m_sheet.value(index));
     }
 }
 
 bool Menu::convert(int& inputRow, double entry) {
     m_sheet.setToday(m_platform.clock.today());
+    const PageSheet::Snapshot before = m_sheet.snapshot();
+    // A row that states its range refuses a value outside it before any
+    // converter sees it; the solver checks its own rows' ranges.
+    const Range& range = m_table->row(inputRow).range;
     Report report = m_table->hasFormulas() ? solver::solve(*m_table, m_sheet, entry, inputRow)
-                                           : m_table->convert(m_sheet, entry, inputRow);
+                    : !range.message.empty() && range.refuses(entry)
+                        ? Report::warning(range.message)
+                        : m_table->convert(m_sheet, entry, inputRow);
     if (const Faulted fault = m_sheet.takeFault(); fault && !report.fault) {
         // The calculation stopped at the fault: nothing it would have said after it counts.
-        report = Report{.kind = Report::Kind::None, .text = {}, .fault = fault};
+        report = Report{.kind = Report::Kind::None, .paragraphs = {}, .fault = fault};
+    }
+    if (report.fault) {
+        m_sheet.restore(before); // no row shows half a calculation
     }
     show(report);
     return !report.fault;
@@ -186,7 +203,7 @@ void Menu::show(const Report& report) {
         m_platform.ui.beep();
         break;
     case Report::Kind::Warning:
-        m_platform.ui.message(MessageIcon::Exclamation, m_title, report.text);
+        m_requests.message(MessageIcon::Exclamation, title(), report.paragraphs);
         break;
     case Report::Kind::None:
         break;
@@ -196,76 +213,71 @@ void Menu::show(const Report& report) {
 
 void Menu::show(Faulted fault) {
     if (fault) {
-        m_platform.ui.message(MessageIcon::Critical, AppTitle, faultText(*fault));
+        m_requests.message(MessageIcon::Critical, AppTitle, {std::string(faultText(*fault))});
     }
 }
 
-void Menu::LabOP_Click(int index) {
-    if (!busy() && m_face == Face::Page && m_panelsVisible && index >= 0 &&
-        index <= ScratchPad::Operators) {
-        pressOperator(index);
+void Menu::pressOperator(Operator key) {
+    if (!blocked() && m_face == Face::Page && !textPage()) {
+        operate(key);
     }
 }
 
-void Menu::pressOperator(int index) {
-    show(m_pad.operate(index));
+void Menu::operate(Operator key) {
+    show(m_pad.operate(key));
 }
 
-void Menu::LabC_Click() {
-    if (busy() || m_face != Face::Page) {
+void Menu::clear() {
+    if (blocked() || m_face != Face::Page) {
         return;
     }
-    ResetScratchPad();
-    ResetPage();
+    clearEntry();
+    m_sheet.reset();
+    if (m_table->loading) {
+        m_balance.clear();
+    }
 }
 
-void Menu::LabMEM_Click(int index) {
-    if (busy() || m_face != Face::Page || !m_panelsVisible || index < 0 || index > 2) {
+void Menu::pressMemory(MemoryKey key) {
+    if (blocked() || m_face != Face::Page || textPage()) {
         return;
     }
     if (m_table->rateStore) {
-        if (index == 0) {
-            LabC_Click();
-            m_currency.DownloadRates();
-        } else if (index == 1) {
-            LabC_Click();
-            m_currency.SetMyCurrency([this](bool changed) {
+        switch (key) {
+        case MemoryKey::Recall: // "Rates"
+            clear();
+            m_rates.downloadRates();
+            break;
+        case MemoryKey::Add: // "Set"
+            clear();
+            m_rates.nameOwnCurrency([this](bool changed) {
                 if (changed) {
-                    LoadUnits();
+                    loadUnits();
                 }
             });
-        } else {
-            m_platform.ui.message(MessageIcon::Information, m_title, m_currency.sourceNote());
+            break;
+        case MemoryKey::Subtract: // "i"
+            m_requests.message(MessageIcon::Information, title(), m_rates.sourceNote());
+            break;
         }
         return;
     }
-    show(m_pad.memoryKey(index));
+    show(m_pad.memoryKey(key));
 }
 
-void Menu::showDigits() {
-    switch (m_digits) {
-    case Digits::Two:
-        m_digitsCaption = formatNumber(0, "0.00", m_symbols);
-        break;
-    case Digits::All:
-        m_digitsCaption = "0" + m_symbols.decimal + "...";
-        break;
-    case Digits::Whole:
-        m_digitsCaption = "0";
-        break;
-    }
-}
-
-void Menu::LabDEC_Click() {
-    if (busy() || m_face != Face::Page || !m_panelsVisible) {
+void Menu::pressDigits() {
+    if (blocked() || m_face != Face::Page || textPage()) {
         return;
     }
     // Two decimals -> all digits -> whole numbers -> two decimals.
     m_digits = m_digits == Digits::Two   ? Digits::All
                : m_digits == Digits::All ? Digits::Whole
                                          : Digits::Two;
-    showDigits();
-    DisplayTags();
+    clearEntry();
+}
+
+void Menu::answer(int request, const Answer& answer) {
+    m_requests.answer(request, answer);
 }
 
 } // namespace zel

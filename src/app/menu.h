@@ -4,61 +4,59 @@
 
 // How a key press travels to the screen
 // -------------------------------------
-// A front end (the Qt window or the console) turns each user action into one
-// event handler of Menu: a typed character into Form_KeyPress, a released key
-// into Form_KeyUp, a click on a value cell into LabValue_Click, and so on.
+// A face (the Qt window, the console, the web page) turns each thing the user
+// does into one call of Menu, named for what the user did: a key into
+// keyDown or keyUp (or type, for a character), a click on a row into
+// clickRow, a page button into openPage, and so on.
 //
-// Typing "75" on the Weight page: Form_KeyPress appends each digit to the entry
-// (ScratchPad: InputText/InputValue) and DisplayValue refreshes the display
-// caption. Clicking row 2 ("pound - lbs") calls LabValue_Click(2): the entry is
-// taken into that row and the converter that the page's table names
-// (Convert_Standard here) rewrites every row's tag, the full-precision number
-// text of its value, and reports what it refused: nothing, the bell, or a
-// warning, which Menu rings or shows. DisplayTags then renders each tag into
-// the caption the user reads, in the form the page's table gives the row (a
-// number with the chosen decimals, h:mm, "090", "R 11.31"), and clears the
-// entry; SetButtonColor marks row 2 as the input row. A converter that meets a
-// division by zero or an overflow stops there: Menu shows the fault, and the
-// rows and the entry stay as they were left.
+// Typing "75" on the Weight page: each digit reaches the entry (ScratchPad),
+// which keeps the number as text and value and shows it the way a pocket
+// calculator does. Clicking row 2 ("pound - lbs") calls clickRow(2): the
+// entry is taken into that row and the converter that the page's table names
+// (convertByFactor here) writes every row's value as a number, and reports
+// what it refused: nothing, the bell, or a warning, which Menu rings or opens
+// as a box. Row 2 becomes the input row. A converter that meets a division by
+// zero or an overflow stops there: Menu says so, and the rows stay as they
+// were before the click.
 //
-// The front end then reads Menu's state (face, title, display, panels, key
-// highlights, the eight rows with their forms) and draws it in its own way:
-// its own symbols for the operator keys, its own type sizes. Everything the
-// platform does for Menu (message boxes, beep, regional symbols, files, HTTP)
-// goes through Platform.
+// The face then asks for view(): one plain value with everything it draws
+// (the face, title, display, keys, each row's unit name and symbol and its
+// value formatted with the regional symbols and the digits chosen, the
+// menu's buttons, the keys' help, the boxes open). Menu decides every rule;
+// the face only maps the view to widgets, elements or text. Everything the
+// platform does for Menu (the bell, regional symbols, files, HTTP, the date)
+// goes through Platform; the boxes go to the face through Interaction::open.
 //
 // Menu never waits. A question, an input box or an HTTP transfer is a request:
 // the flow that makes it (the rates offered on opening the Currency page,
 // "Rates", "Set") hands over what to do with the answer and returns, and the
-// answer comes back later as an event of the front end, which then draws Menu
-// again. Until it has, busy() is true and Menu takes no other action; the
-// window's boxes are modal, so keys go to the box.
+// answer comes back later as an event (answer, or the end of a transfer),
+// after which the face draws the view again. While a box is open or a
+// download runs, Menu takes no other action of the user's.
 //
-// Where the handlers live: menu.cpp has the window's and the controls' events
-// and the page switch, keyboard.cpp Form_KeyPress and Form_KeyUp, rowrender.cpp
-// DisplayTags.
+// Where the handlers live: menu.cpp has the page switch, the rows, the
+// calculator's keys and the boxes; keyboard.cpp the keys; view.cpp the view;
+// clipboard.cpp pasting and copying.
 
 #include "app/catalogue.h"
-#include "currency/modcurrency.h"
+#include "app/keys.h"
+#include "app/requests.h"
+#include "app/view.h"
+#include "balance/weightbalance.h"
+#include "currency/ratestore.h"
 #include "entry/scratchpad.h"
 #include "host/platform.h"
+#include "page/pagesheet.h"
 
 #include <array>
 #include <string>
 
 namespace zel {
 
-/// Key codes of Form_KeyUp and the characters of Form_KeyPress.
-namespace key {
-inline constexpr int Backspace = 8, Enter = 13, Escape = 27, F1 = 112, F12 = 123;
-}
-
-enum class Face { Menu, Page };
-
 /// What the digits key shows the rows with; each press moves to the next.
 enum class Digits { Two, All, Whole };
 
-/// The state of the one window and its event handlers.
+/// The state of the one window and what the user does to it.
 class Menu {
   public:
     /// The window with every page of `pages` (the program's own catalogue, or
@@ -67,27 +65,86 @@ class Menu {
     Menu(const Menu&) = delete; // holds references to its own members
     Menu& operator=(const Menu&) = delete;
 
-    // Window events (menu.cpp; the keys in keyboard.cpp).
-    void Form_Load();
-    void Form_Activate();
-    void Form_QueryUnload();
-    void Form_KeyPress(char32_t keyAscii);
-    void Form_KeyUp(int keyCode);
+    // The window.
+    /// It is shown: the menu face; no page is open until one is chosen.
+    void start();
+    /// It becomes the active window again: the regional symbols are read
+    /// afresh, and a clash of decimal and grouping symbol is pointed out.
+    void activate();
+    /// It closes: the program ends.
+    void close();
 
-    // Control events (menu.cpp).
-    void LabMenu_Click(int index);
-    void LabelMenu_Click();
-    void LabValue_Click(int index);
-    void LabOP_Click(int index);
-    void LabC_Click();
-    void LabMEM_Click(int index);
-    void LabDEC_Click();
+    // What the user does (menu.cpp; the keys in keyboard.cpp).
+    /// Opens the page with this number; false for none.
+    bool openPage(int number);
+    /// Opens the page a text names: its number or its name ("fuel uplift").
+    bool openPage(std::string_view numberOrName);
+    /// Back to the menu face; the page keeps what it shows.
+    void goBack();
+    /// Types one character into the entry (a digit, a decimal symbol, an
+    /// operator, or a letter of a report).
+    void type(char32_t character);
+    /// A key goes down or comes up. What the calculator does with it is done;
+    /// what is the face's own to do (copy, zoom, move the focus) is returned.
+    FaceAction keyDown(const Chord& chord);
+    FaceAction keyUp(const Chord& chord);
+    /// A click on a row: takes the entry into it, or selects it.
+    void clickRow(int row);
+    void pressOperator(Operator key);
+    /// The memory keys; on the Currency page "Rates", "Set" and "i".
+    void pressMemory(MemoryKey key);
+    /// The digits key: two decimals, all digits, whole numbers.
+    void pressDigits();
+    /// The clear key: the entry (and then the calculation) and the rows.
+    void clear();
+    /// Text pasted into the entry (clipboard.cpp): on a number page one
+    /// number ("." or "," for the decimal symbol, grouping and a unit word
+    /// left out), else a message; on a report page the report.
+    void paste(std::string_view text);
+    /// A report written whole (in a text field, by a screen's keyboard that
+    /// composes words) replaces the one typed, each character taken as its
+    /// key would type it.
+    void writeReport(std::string_view text);
+    /// The same, then decoded as Enter decodes it: the same report again
+    /// shows its next runway.
+    void enterReport(std::string_view text);
+    /// The user's answer to the box `request`.
+    void answer(int request, const Answer& answer);
+
+    // The Weight & Balance page (loadingpage.cpp). A row click there takes
+    // the typed number into the sheet's cell of that entry number.
+    void chooseAircraft(int index);
+    /// The stations (counted from 1, 0 for none) weight is moved between.
+    void chooseShift(int from, int to);
+    void chooseBallast(int station);
+    void newProfile();
+    void duplicateProfile();
+    void editProfile();
+    void renameProfile();
+    void deleteProfile();
+    /// A profile file the user chose to import, as it was read.
+    void importProfile(std::string_view bytes);
+    /// The aircraft shown as a profile file, for the user to export; its
+    /// name is the view's loading.exportName.
+    std::string exportProfile() const;
+    void editField(std::string_view field, std::string_view text);
+    void pressFormButton(const balance::FormAction& action);
+
+    // What the window shows.
+    /// Everything a face draws (view.cpp).
+    View view() const;
+    Face face() const { return m_face; }
+    /// The table of the page shown; nothing before a page is chosen.
+    const PageTable* page() const { return m_table; }
+    int currentPage() const { return m_pages.numberOf(m_table); }
+    const PageCatalogue& pages() const { return m_pages; }
+    const Symbols& symbols() const { return m_symbols; }
+    const ScratchPad& scratchPad() const { return m_pad; }
+    const RowCell& row(int row) const { return m_sheet[row]; }
+    /// While rates are downloading, or a box is open, the window takes no action.
+    bool busy() const { return m_rates.downloading(); }
 
     // The clipboard (clipboard.cpp).
-    /// Text pasted into the entry, typed as its keys would be: on a number
-    /// page a number ("." or "," for the decimal symbol, grouping and blanks
-    /// left out, a leading "-" kept), else the bell; on a text page the report.
-    void Form_Paste(std::string_view text);
     /// The number in the display: regional decimal symbol, no grouping.
     std::string displayNumber() const;
     /// A row's value as shown, without grouping symbols; empty for none.
@@ -97,67 +154,59 @@ class Menu {
     std::string pageText() const;
 
     /// The settings file and the day and source of the stored rates.
-    std::string settingsFile() { return m_currency.settingsFile(); }
-    std::string ratesNote() { return m_currency.ratesNote(); }
-
-    // What the window shows.
-    Face face() const { return m_face; }
-    int currentPage() const { return m_table ? m_table->number : 0; }
-    /// The table of the page shown; nothing before a page is chosen.
-    const PageTable* page() const { return m_table; }
-    const PageCatalogue& pages() const { return m_pages; }
-    const std::string& title() const { return m_title; }
-    const std::string& display() const { return m_pad.display(); }
-    /// A long display is drawn smaller.
-    bool displayCompact() const { return m_pad.displayCompact(); }
-    Digits digits() const { return m_digits; }
-    /// The digits key's caption in the regional form: "0.00", "0.…", "0".
-    const std::string& digitsCaption() const { return m_digitsCaption; }
-    /// The memory, digits and operator panels are shown and hidden together.
-    bool panelsVisible() const { return m_panelsVisible; }
-    const std::string& memoryCaption(int key) const {
-        return m_memoryCaptions.at(static_cast<std::size_t>(key));
-    }
-    /// MRC lights up amber while the memory holds a value.
-    bool memoryLit(int key) const { return key == 0 && m_pad.memoryLit(); }
-    bool operatorLit(int key) const { return m_pad.operatorLit(key); }
-    const RowCell& row(int row) const { return m_sheet[row]; }
-    const Symbols& symbols() const { return m_symbols; }
-    const ScratchPad& scratchPad() const { return m_pad; }
-    /// While rates are downloading the window repaints but takes no action.
-    bool busy() const { return m_currency.downloading(); }
+    std::string settingsFile() { return m_rates.settings().path(); }
+    std::string ratesNote() { return m_rates.ratesNote(); }
 
   private:
-    void LoadUnits();
-    void ResetPage();
-    void SetButtonColor(int index);
-    void DisplayTags(); // rowrender.cpp
-    void ResetScratchPad() { m_pad.reset(textPage()); }
+    /// A box is open or a download runs: the user's actions wait.
+    bool blocked() const { return busy() || !m_requests.empty(); }
     bool textPage() const { return m_table != nullptr && m_table->isText(); }
+    bool loadingPage() const {
+        return m_face == Face::Page && m_table != nullptr && m_table->loading;
+    }
+    /// A click on a cell of the loading sheet.
+    void clickEntry(int entry);
+    void loadUnits();
+    void markInputRow(int row);
+    void clearEntry() { m_pad.reset(textPage()); }
     /// Runs the page's converter on `entry`; false when a fault stopped it.
     bool convert(int& inputRow, double entry);
     void decode();
-    void pressOperator(int index);
+    void operate(Operator key);
+    void press(Key key);
+    void release(Key key);
+    void typeText(char32_t c);
+    /// A report into the entry, as a paste takes it; false, having said
+    /// why, when the page refuses it.
+    bool takeReport(std::string_view text);
+    /// Coordinates pasted on a page of places: one into the entry, a pair
+    /// into a latitude row and its longitude row; false for other text.
+    bool pasteCoordinates(std::string_view text);
+    /// A pasted number's keys ("-0.5"), replacing the entry.
+    void typePasted(std::string_view keys);
+    void typeNumber(char32_t c);
     /// Rings the bell or shows the warning a converter reported.
     void show(const Report& report);
     void show(Faulted fault);
-    void showDigits();
-    void keyPressText(char32_t keyAscii);
-    void keyPressNumber(char32_t keyAscii);
+    /// The title of the window: the page's name, or the program's.
+    std::string title() const;
+    std::vector<HelpLine> help() const;
+    void rowView(int row, RowView& shown) const;
 
     Platform& m_platform;
     const PageCatalogue& m_pages;
-    ModCurrency m_currency{m_platform};
+    RequestQueue m_requests{m_platform.ui};
+    RateStore m_rates{m_platform, m_requests};
     Symbols m_symbols;
     ScratchPad m_pad{m_symbols};
     PageSheet m_sheet{m_symbols};
+    balance::WeightBalance m_balance{m_platform.storage, m_requests};
     const PageTable* m_table = nullptr;
-    std::string m_title;
     Face m_face = Face::Menu;
     Digits m_digits = Digits::Two;
-    std::string m_digitsCaption;
-    bool m_panelsVisible = true;
-    std::array<std::string, 3> m_memoryCaptions{"MRC", "M+", "M-"};
+    bool m_shiftF1 = false; ///< F1 went down with Shift: About when it is let go
+    /// Why the last value typed was refused, until the user's next action.
+    std::string m_refusal;
     std::string m_reportDecoded; ///< the report text last decoded
     int m_reportShown = 0;       ///< which of its runways is shown
 };

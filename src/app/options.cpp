@@ -43,6 +43,22 @@ Options parseOptions(const std::vector<std::string>& arguments) {
                                        arguments.begin() + static_cast<long>(i) + 4);
                 i += 3;
             }
+        } else if (argument == "--aircraft") {
+            value(options.aircraft);
+        } else if (argument == "--loadsheet") {
+            value(options.loadsheet);
+        } else if (argument == "--load" || argument == "--burn") {
+            std::optional<std::string> pair;
+            value(pair);
+            if (pair) {
+                (argument == "--load" ? options.loads : options.burns).push_back(*pair);
+            }
+        } else if (argument == "--target-cg") {
+            value(options.targetCg);
+        } else if (argument == "--shift") {
+            value(options.shift);
+        } else if (argument == "--ballast") {
+            value(options.ballast);
         } else if (argument == "--help" || argument == "-h") {
             options.help = true;
         } else if (argument == "--pages") {
@@ -65,11 +81,36 @@ Options parseOptions(const std::vector<std::string>& arguments) {
     if (options.palette && *options.palette != "day" && *options.palette != "night") {
         options.error = "--palette takes day or night";
     }
+    const bool helper = options.shift || options.ballast;
+    if (!options.loadsheet &&
+        (!options.loads.empty() || !options.burns.empty() || options.targetCg || helper)) {
+        options.error = "--load, --burn, --target-cg, --shift and --ballast go with --loadsheet";
+    } else if (options.targetCg && (options.shift.has_value() == options.ballast.has_value())) {
+        options.error = "--target-cg goes with one of --shift FROM=TO and --ballast NAME";
+    } else if (helper && !options.targetCg) {
+        options.error = "--shift and --ballast need --target-cg";
+    } else if (options.aircraft && !options.console) {
+        options.error = "--aircraft goes with --console";
+    }
     return options;
 }
 
 std::string versionText() {
     return std::string("zelFLIGHTAB ") + ZEL_VERSION;
+}
+
+std::vector<std::string> licenceNotes() {
+    return {
+        "This program is free software under the GNU General Public License, version 3 or any "
+        "later version. It comes with absolutely no warranty; it is no substitute for the "
+        "aircraft's documents.",
+        "Magnetic variation: the World Magnetic Model 2025 (WMM2025) of NOAA's National Centers "
+        "for Environmental Information and the British Geological Survey, a work of the U.S. "
+        "Government in the public domain.",
+        "Great circles: GeographicLib by Charles Karney, under the MIT licence. Aircraft "
+        "profiles: JSON for Modern C++ by Niels Lohmann, under the MIT licence. Currency rates: "
+        "Expat, under the MIT licence.",
+    };
 }
 
 std::string pageList() {
@@ -115,6 +156,16 @@ calculators, planning pages, runway report decoders and currency rates.
 )" + list + R"(
   --console [FILE]          run console commands from FILE (or standard input)
                             and print what the window shows
+  --aircraft FILE           with --console: import the aircraft profile FILE
+  --loadsheet PROFILE.json  print the loading sheet of the profile and exit:
+                            0 within limits, 1 out of them, 2 for bad input
+    --load NAME=VALUE       what station NAME holds: a weight, or for fuel a
+                            quantity; a unit word after it converts (230 lb,
+                            40 L, 104 kg)
+    --burn NAME=VALUE       the fuel burnt from station NAME
+    --target-cg X           the CG to bring the loading to, with one of
+    --shift FROM=TO         the stations to move weight between, or
+    --ballast NAME          the station to add ballast at
   --script FILE             run console commands against the window, then
   --screenshot OUT.png      save a picture of it and exit
   --zoom PERCENT            the window at 100, 125, 150, 175, 200 or 250 %

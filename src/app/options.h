@@ -20,6 +20,13 @@ struct Options {
     std::optional<std::string> zoom;       ///< the window's zoom in percent
     std::optional<std::string> palette;    ///< "day" or "night"
     std::vector<std::string> convert;      ///< PAGE ROW VALUE: one conversion, printed
+    std::optional<std::string> aircraft;   ///< a profile file imported at the start
+    std::optional<std::string> loadsheet;  ///< a profile file whose loading sheet is printed
+    std::vector<std::string> loads;        ///< NAME=VALUE: what a station holds
+    std::vector<std::string> burns;        ///< NAME=VALUE: fuel burnt from a station
+    std::optional<std::string> targetCg;   ///< the CG a helper brings the loading to
+    std::optional<std::string> shift;      ///< FROM=TO: the stations weight moves between
+    std::optional<std::string> ballast;    ///< the station ballast goes to
     bool help = false;
     bool version = false;
     bool pages = false; ///< list the pages, a line each: number, tab, name
@@ -34,5 +41,8 @@ std::string usage();
 std::string pageList();
 /// What --version prints: "zelFLIGHTAB 0.1.0".
 std::string versionText();
+/// The program's licence and those of the models and libraries it carries,
+/// a paragraph each, as the About box gives them.
+std::vector<std::string> licenceNotes();
 
 } // namespace zel

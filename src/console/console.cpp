@@ -4,6 +4,7 @@
 
 #include "app/options.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <fstream>
@@ -16,8 +17,8 @@ namespace {
 
 /// The operator keys as the console writes them: the divide key's two faces
 /// are a dot between blanks, as in a plain-text listing.
-constexpr std::array<std::string_view, ScratchPad::Operators + 1> OperatorSymbols{
-    "", "+", "-", "x", " . ", " . "};
+constexpr std::array<std::string_view, OperatorCount> OperatorSymbols{"",  "+",   "-",
+                                                                      "x", " . ", " . "};
 
 /// A whole number in [low, high], or nothing.
 std::optional<int> number(std::string_view text, int low, int high) {
@@ -29,70 +30,37 @@ std::optional<int> number(std::string_view text, int low, int high) {
     return value;
 }
 
-std::optional<int> keyCode(std::string_view name) {
+std::optional<Key> keyNamed(std::string_view name) {
     if (name == "enter") {
-        return key::Enter;
+        return Key::Enter;
     }
     if (name == "escape") {
-        return key::Escape;
+        return Key::Escape;
     }
     if (name.size() >= 2 && name[0] == 'f') {
         if (const auto n = number(name.substr(1), 1, 12)) {
-            return key::F1 + *n - 1;
+            return functionKey(*n);
         }
     }
     return std::nullopt;
 }
 
-/// A name as it is compared: ASCII letters in lower case, digits, and any
-/// non-ASCII character but the degree sign; blanks and punctuation dropped
-/// ("Mach - AS" -> "machas", "°C" -> "c").
-std::string folded(std::string_view text) {
-    std::string out;
-    for (std::size_t at = 0; at < text.size(); ++at) {
-        const char c = text[at];
-        if (text.substr(at, 2) == "°") {
-            ++at;
-            continue;
-        }
-        if (isLetter(c) || isDigit(c) || static_cast<unsigned char>(c) >= 0x80) {
-            out += lowerCase(c);
-        }
-    }
-    return out;
-}
-
-std::optional<int> findPage(const PageCatalogue& pages, std::string_view text) {
-    if (const auto n = number(text, 1, pages.count()); n && pages.find(*n)) {
-        return n;
-    }
-    for (int page = 1; page <= pages.count(); ++page) {
-        const PageTable* table = pages.find(page);
-        if (table && !folded(text).empty() && folded(text) == folded(table->name)) {
-            return page;
-        }
-    }
-    return std::nullopt;
-}
-
-/// The row a unit names: its short form after " - " ("lbs" of "pound - lbs"),
-/// or the whole caption where it has none; exact first, then in any case.
+/// The row a unit names: its symbol ("lbs" of "pound - lbs"), or its name
+/// where it has none; exact first, then in any case.
 std::variant<int, std::string> findRow(const Menu& menu, std::string_view text) {
+    const View view = menu.view();
     if (const auto n = number(text, 1, PageSheet::Rows)) {
-        if (menu.row(*n).unit.empty() && !menu.page()->isText()) {
-            return "row " + std::to_string(*n) + " is not used on " + menu.title();
+        if (!view.rows[static_cast<std::size_t>(*n - 1)].exists && !view.report) {
+            return "row " + std::to_string(*n) + " is not used on " + view.title;
         }
         return *n;
     }
     for (const bool exact : {true, false}) {
         std::vector<int> rows;
         for (int row = 1; row <= PageSheet::Rows; ++row) {
-            const std::string& unit = menu.row(row).unit;
-            const auto dash = unit.rfind(" - ");
-            const std::string_view shortForm = dash == std::string::npos
-                                                   ? std::string_view(unit)
-                                                   : std::string_view(unit).substr(dash + 3);
-            if (!unit.empty() && (exact ? shortForm == text : folded(shortForm) == folded(text))) {
+            const RowView& shown = view.rows[static_cast<std::size_t>(row - 1)];
+            const std::string& symbol = shown.symbol.empty() ? shown.name : shown.symbol;
+            if (shown.exists && (exact ? symbol == text : foldedName(symbol) == foldedName(text))) {
                 rows.push_back(row);
             }
         }
@@ -100,23 +68,21 @@ std::variant<int, std::string> findRow(const Menu& menu, std::string_view text) 
             return rows.front();
         }
         if (rows.size() > 1) {
-            return "row " + std::string(text) + " is ambiguous on " + menu.title() +
+            return "row " + std::string(text) + " is ambiguous on " + view.title +
                    ": give its number";
         }
     }
-    return "no row " + std::string(text) + " on " + menu.title();
+    return "no row " + std::string(text) + " on " + view.title;
 }
 
 } // namespace
 
 std::optional<std::string> convertOnce(Menu& menu, std::string_view page, std::string_view row,
                                        std::string_view value) {
-    const auto pageNumber = findPage(menu.pages(), page);
-    if (!pageNumber) {
+    if (!menu.openPage(page)) {
         return "unknown page: " + std::string(page) + " (a number from 1 to " +
                std::to_string(menu.pages().count()) + ", or a page name)";
     }
-    menu.LabMenu_Click(*pageNumber);
     const auto rowNumber = findRow(menu, row);
     if (const auto* error = std::get_if<std::string>(&rowNumber)) {
         return *error;
@@ -131,18 +97,18 @@ std::optional<std::string> convertOnce(Menu& menu, std::string_view page, std::s
         const std::size_t start = at;
         const char32_t c = nextCharacter(value, at);
         if (value.substr(start, at - start) != symbols.grouping) {
-            menu.Form_KeyPress(c);
+            menu.type(c);
         }
     }
     if (!text && menu.scratchPad().inputValue() != *number) {
         return "cannot type " + std::string(value) + ": write it with digits and " +
                symbols.decimal + " only";
     }
-    menu.LabValue_Click(std::get<int>(rowNumber));
+    menu.clickRow(std::get<int>(rowNumber));
     return std::nullopt;
 }
 
-std::string quoted(std::string_view text) {
+std::string quotedText(std::string_view text) {
     std::string out = "\"";
     for (char c : text) {
         switch (c) {
@@ -169,9 +135,12 @@ void ConsoleInteraction::beep() {
     m_out << "beep\n";
 }
 
-void ConsoleInteraction::message(MessageIcon icon, std::string_view title, std::string_view text) {
-    m_out << "message " << messageIconName(icon) << ' ' << quoted(title) << ' ' << quoted(text)
-          << '\n';
+std::string joined(const std::vector<std::string>& paragraphs) {
+    std::string text;
+    for (const std::string& paragraph : paragraphs) {
+        text += (text.empty() ? "" : "\r\r") + paragraph;
+    }
+    return text;
 }
 
 std::optional<ConsoleInteraction::Scripted> ConsoleInteraction::nextAnswer() {
@@ -183,25 +152,38 @@ std::optional<ConsoleInteraction::Scripted> ConsoleInteraction::nextAnswer() {
     return answer;
 }
 
-void ConsoleInteraction::ask(const Request& request, Then<const Answer&> then) {
+void ConsoleInteraction::open(const Request& request) {
     // The script's answers were queued before the command that asks, so the
     // answer is at hand: it is given at once, in the order the boxes open.
-    const auto queued = nextAnswer();
+    const std::string text = joined(request.paragraphs);
     Answer answer;
-    if (request.kind == Request::Kind::Question) {
+    switch (request.kind) {
+    case Request::Kind::Message:
+        m_out << "message " << messageIconName(request.icon) << ' ' << quotedText(request.title)
+              << ' ' << quotedText(text) << '\n';
+        break;
+    case Request::Kind::Question: {
+        const auto queued = nextAnswer();
         answer.yes = queued && queued->kind == Scripted::Kind::Yes;
-        m_out << "question " << quoted(request.title) << ' ' << quoted(request.text) << " -> "
+        m_out << "question " << quotedText(request.title) << ' ' << quotedText(text) << " -> "
               << (answer.yes ? "yes" : "no") << '\n';
-    } else {
-        m_out << "input " << quoted(request.title) << ' ' << quoted(request.text) << " -> ";
+        break;
+    }
+    case Request::Kind::Input: {
+        const auto queued = nextAnswer();
+        m_out << "input " << quotedText(request.title) << ' ' << quotedText(text) << " -> ";
         if (queued && queued->kind == Scripted::Kind::Text) {
-            m_out << quoted(queued->text) << '\n';
+            m_out << quotedText(queued->text) << '\n';
             answer.text = queued->text;
         } else {
             m_out << "cancel\n";
         }
+        break;
     }
-    then(answer);
+    }
+    if (m_answer) {
+        m_answer(request.id, answer);
+    }
 }
 
 void ConsoleInteraction::setBusy(bool busy) {
@@ -213,9 +195,15 @@ void ConsoleInteraction::quit() {
     m_quit = true;
 }
 
+ConsoleSession::ConsoleSession(Menu& menu, ConsoleInteraction& interaction, std::ostream& out)
+    : m_menu(menu), m_interaction(interaction), m_out(out) {
+    m_interaction.answerWith(
+        [&menu](int request, const Answer& answer) { menu.answer(request, answer); });
+}
+
 void ConsoleSession::start() {
-    m_menu.Form_Load();
-    m_menu.Form_Activate();
+    m_menu.start();
+    m_menu.activate();
 }
 
 std::optional<std::string> ConsoleSession::run(const std::string& rawLine) {
@@ -248,23 +236,35 @@ std::optional<std::string> ConsoleSession::run(const std::string& rawLine) {
     };
 
     if (command == "page") {
-        return needs(1, m_menu.pages().count(), [&](int n) { m_menu.LabMenu_Click(n); });
+        // A number, or a page's name.
+        if (m_menu.pages().find(argument) == nullptr) {
+            return "page takes a number from 1 to " + std::to_string(m_menu.pages().count()) +
+                   " or a page's name";
+        }
+        m_menu.openPage(argument);
+        return std::nullopt;
     }
     if (command == "row") {
-        return needs(1, 8, [&](int n) { m_menu.LabValue_Click(n); });
+        // On the Weight & Balance page the rows are the sheet's cells.
+        int rows = PageSheet::Rows;
+        if (const View view = m_menu.view(); view.loading) {
+            rows = std::max(1, view.loading->target.entry);
+        }
+        return needs(1, rows, [&](int n) { m_menu.clickRow(n); });
     }
     if (command == "op") {
-        return needs(0, 5, [&](int n) { m_menu.LabOP_Click(n); });
+        return needs(0, OperatorCount - 1,
+                     [&](int n) { m_menu.pressOperator(static_cast<Operator>(n)); });
     }
     if (command == "mem") {
-        return needs(0, 2, [&](int n) { m_menu.LabMEM_Click(n); });
+        return needs(0, 2, [&](int n) { m_menu.pressMemory(static_cast<MemoryKey>(n)); });
     }
     if (command == "type") {
         if (space == std::string_view::npos) {
             return std::string("type needs the text to type");
         }
         for (std::size_t at = 0; at < argument.size() && !finished();) {
-            m_menu.Form_KeyPress(nextCharacter(argument, at));
+            m_menu.type(nextCharacter(argument, at));
         }
         return std::nullopt;
     }
@@ -280,22 +280,22 @@ std::optional<std::string> ConsoleSession::run(const std::string& rawLine) {
                 text += argument[at];
             }
         }
-        m_menu.Form_Paste(text);
+        m_menu.paste(text);
         return std::nullopt;
     }
     if (command == "key") {
         if (argument != "backspace") {
             return std::string("key takes backspace");
         }
-        m_menu.Form_KeyPress(key::Backspace);
+        m_menu.keyDown({.key = Key::Backspace});
         return std::nullopt;
     }
     if (command == "keyup") {
-        const auto code = keyCode(argument);
-        if (!code) {
+        const auto key = keyNamed(argument);
+        if (!key) {
             return std::string("keyup takes enter, escape or f1 to f12");
         }
-        m_menu.Form_KeyUp(*code);
+        m_menu.keyUp({.key = *key});
         return std::nullopt;
     }
     if (command == "answer") {
@@ -314,80 +314,90 @@ std::optional<std::string> ConsoleSession::run(const std::string& rawLine) {
         return std::string("answer takes yes, no, cancel or text TEXT");
     }
     if (command == "menu") {
-        return bare([&] { m_menu.LabelMenu_Click(); });
+        return bare([&] { m_menu.goBack(); });
     }
     if (command == "digits") {
-        return bare([&] { m_menu.LabDEC_Click(); });
+        return bare([&] { m_menu.pressDigits(); });
     }
     if (command == "clear") {
-        return bare([&] { m_menu.LabC_Click(); });
+        return bare([&] { m_menu.clear(); });
     }
     if (command == "activate") {
-        return bare([&] { m_menu.Form_Activate(); });
+        return bare([&] { m_menu.activate(); });
     }
     if (command == "show") {
         // The whole window, or one part of it: the display, the rows, one row.
+        const View view = m_menu.view();
         if (argument.empty() && space == std::string_view::npos) {
-            show(m_menu, m_out);
+            show(view, m_out);
         } else if (argument == "display") {
-            showDisplay(m_menu, m_out);
+            showDisplay(view, m_out);
+        } else if (argument == "sheet" && view.loading) {
+            m_out << view.loading->sheet;
         } else if (argument == "rows") {
             for (int row = 1; row <= PageSheet::Rows; ++row) {
-                showRow(m_menu, row, m_out);
+                showRow(view, row, m_out);
             }
         } else if (const auto row = argument.starts_with("row ")
                                         ? number(argument.substr(4), 1, PageSheet::Rows)
                                         : std::nullopt) {
-            showRow(m_menu, *row, m_out);
+            showRow(view, *row, m_out);
         } else {
-            return std::string("show takes nothing, display, rows or row N");
+            return std::string("show takes nothing, display, sheet, rows or row N");
         }
         return std::nullopt;
     }
     if (command == "tags") {
         return bare([&] {
+            const View view = m_menu.view();
             for (int row = 1; row <= PageSheet::Rows; ++row) {
-                m_out << "tag " << row << ' ' << quoted(m_menu.row(row).tag) << '\n';
+                m_out << "tag " << row << ' '
+                      << quotedText(view.rows[static_cast<std::size_t>(row - 1)].full) << '\n';
             }
         });
+    }
+    if (auto outcome = runLoadingCommand(m_menu, command, argument)) {
+        return *outcome;
     }
     return "unknown command: " + std::string(command);
 }
 
-void ConsoleSession::show(const Menu& menu, std::ostream& out) {
-    out << "face " << (menu.face() == Face::Page ? "page" : "menu") << '\n';
-    out << "title " << quoted(menu.title()) << '\n';
-    showDisplay(menu, out);
-    out << "digits " << quoted(menu.digitsCaption()) << '\n';
-    out << "panels" << (menu.panelsVisible() ? " memory digits operators" : "") << '\n';
+void ConsoleSession::show(const View& view, std::ostream& out) {
+    out << "face " << (view.face == Face::Page ? "page" : "menu") << '\n';
+    out << "title " << quotedText(view.title) << '\n';
+    showDisplay(view, out);
+    out << "digits " << quotedText(view.digits) << '\n';
+    out << "panels" << (view.panels ? " memory digits operators" : "") << '\n';
     out << "mem";
-    for (int key = 0; key < 3; ++key) {
-        out << ' ' << quoted(menu.memoryCaption(key)) << (menu.memoryLit(key) ? "*" : "");
+    for (const KeyView& key : view.memory) {
+        out << ' ' << quotedText(key.caption) << (key.lit ? "*" : "");
     }
     out << "\nops";
-    for (int key = 1; key <= ScratchPad::Operators; ++key) {
-        out << ' ' << quoted(OperatorSymbols[static_cast<std::size_t>(key)])
-            << (menu.operatorLit(key) ? "*" : "");
+    for (std::size_t key = 1; key < OperatorSymbols.size(); ++key) {
+        out << ' ' << quotedText(OperatorSymbols[key]) << (view.operators[key].lit ? "*" : "");
     }
     out << '\n';
+    if (view.loading) {
+        showLoading(*view.loading, out);
+        return;
+    }
     for (int row = 1; row <= PageSheet::Rows; ++row) {
-        showRow(menu, row, out);
+        showRow(view, row, out);
     }
 }
 
-void ConsoleSession::showRow(const Menu& menu, int row, std::ostream& out) {
-    const RowCell& cell = menu.row(row);
-    out << "row " << row << ' ' << quoted(cell.unit) << ' ' << quoted(cell.caption) << ' '
-        << (cell.compact ? 9 : 12) << ' '
-        << (cell.input       ? "input"
-            : cell.isGiven() ? "given"
-                             : "normal")
+void ConsoleSession::showRow(const View& view, int row, std::ostream& out) {
+    const RowView& shown = view.rows.at(static_cast<std::size_t>(row - 1));
+    out << "row " << row << ' ' << quotedText(shown.unit) << ' ' << quotedText(shown.value) << ' '
+        << shown.emphasis << ' '
+        << (shown.input   ? "input"
+            : shown.given ? "given"
+                          : "normal")
         << '\n';
 }
 
-void ConsoleSession::showDisplay(const Menu& menu, std::ostream& out) {
-    // Point sizes as the window draws them: small text for a long number.
-    out << "display " << quoted(menu.display()) << ' ' << (menu.displayCompact() ? 10 : 18) << '\n';
+void ConsoleSession::showDisplay(const View& view, std::ostream& out) {
+    out << "display " << quotedText(view.display) << ' ' << view.displayEmphasis << '\n';
 }
 
 std::optional<int> answerAtOnce(const Options& options) {
@@ -422,6 +432,13 @@ int runConsole(const Options& options, const ConsoleMachine& machine) {
     Menu menu(platform);
     ConsoleSession session(menu, interaction, std::cout);
     session.start();
+    if (options.aircraft) {
+        if (const auto error = importAircraft(menu, *options.aircraft)) {
+            std::cout.flush();
+            std::cerr << "error: " << *error << '\n';
+            return 2;
+        }
+    }
     std::string line;
     for (int number = 1; !session.finished() && std::getline(in, line); ++number) {
         const auto error = session.run(line);
@@ -448,8 +465,9 @@ int runConvert(const Options& options, const ConsoleMachine& machine) {
         std::cerr << "error: " << *error << '\n';
         return 2;
     }
+    const View view = menu.view();
     for (int row = 1; row <= PageSheet::Rows; ++row) {
-        ConsoleSession::showRow(menu, row, std::cout);
+        ConsoleSession::showRow(view, row, std::cout);
     }
     return 0;
 }

@@ -15,14 +15,19 @@ namespace zel {
 
 /// The text front end's dialogs: every message, question, input box, beep and
 /// busy pointer is printed as a line; questions and input boxes take answers
-/// queued beforehand ("answer yes", "answer text MXN").
+/// queued beforehand ("answer yes", "answer text MXN"), and every box is
+/// answered as it opens.
 class ConsoleInteraction : public Interaction {
   public:
     explicit ConsoleInteraction(std::ostream& out) : m_out(out) {}
 
+    /// Where the answers go: the calculator's answer.
+    void answerWith(std::function<void(int request, const Answer& answer)> answer) {
+        m_answer = std::move(answer);
+    }
+
     void beep() override;
-    void message(MessageIcon icon, std::string_view title, std::string_view text) override;
-    void ask(const Request& request, Then<const Answer&> then) override;
+    void open(const Request& request) override;
     void setBusy(bool busy) override;
     void quit() override;
 
@@ -38,6 +43,7 @@ class ConsoleInteraction : public Interaction {
     std::optional<Scripted> nextAnswer();
 
     std::ostream& m_out;
+    std::function<void(int, const Answer&)> m_answer;
     std::deque<Scripted> m_answers;
     bool m_quit = false;
 };
@@ -45,10 +51,9 @@ class ConsoleInteraction : public Interaction {
 /// Runs console commands against a Menu, one line at a time.
 class ConsoleSession {
   public:
-    ConsoleSession(Menu& menu, ConsoleInteraction& interaction, std::ostream& out)
-        : m_menu(menu), m_interaction(interaction), m_out(out) {}
+    ConsoleSession(Menu& menu, ConsoleInteraction& interaction, std::ostream& out);
 
-    /// Start-up, as the window does it: Form_Load, then Form_Activate.
+    /// Start-up, as the window does it: shown, then activated.
     void start();
     /// Runs one line; the reason when the line cannot be read.
     std::optional<std::string> run(const std::string& line);
@@ -56,11 +61,12 @@ class ConsoleSession {
     const Menu& menu() const { return m_menu; }
 
     /// Prints the window's state, as the "show" command does.
-    static void show(const Menu& menu, std::ostream& out);
-    /// Prints the display and its size in points, as "show display" does.
-    static void showDisplay(const Menu& menu, std::ostream& out);
-    /// Prints one row as "show" does: row N "unit" "caption" size input|normal.
-    static void showRow(const Menu& menu, int row, std::ostream& out);
+    static void show(const View& view, std::ostream& out);
+    /// Prints the display and its emphasis, as "show display" does.
+    static void showDisplay(const View& view, std::ostream& out);
+    /// Prints one row as "show" does: row N "unit" "value" emphasis
+    /// input|given|normal.
+    static void showRow(const View& view, int row, std::ostream& out);
 
   private:
     Menu& m_menu;
@@ -69,11 +75,13 @@ class ConsoleSession {
 };
 
 /// A text in double quotes, with \" \\ \r \n escaped.
-std::string quoted(std::string_view text);
+std::string quotedText(std::string_view text);
+/// A box's paragraphs as one text, set apart by an empty line ("\r\r").
+std::string joined(const std::vector<std::string>& paragraphs);
 
 /// One conversion as a user makes it: opens PAGE (a number or a name, any
 /// case), types VALUE (regional form) and clicks ROW (a number, or the unit's
-/// short form after " - ": "lbs", "kt", "°C"). The reason when it cannot.
+/// symbol: "lbs", "kt", "°C"). The reason when it cannot.
 std::optional<std::string> convertOnce(Menu& menu, std::string_view page, std::string_view row,
                                        std::string_view value);
 
@@ -96,5 +104,19 @@ std::optional<int> answerAtOnce(const Options& options);
 int runConsole(const Options& options, const ConsoleMachine& machine);
 /// `zelflightab --convert PAGE ROW VALUE`: prints the page's eight rows.
 int runConvert(const Options& options, const ConsoleMachine& machine);
+/// `zelflightab --loadsheet PROFILE.json [--load NAME=VALUE]...`: prints the
+/// loading sheet; 0 within limits, 1 out of them, 2 for bad input.
+int runLoadsheet(const Options& options, const ConsoleMachine& machine);
+
+/// Imports the profile file at `path` as the user's own; the reason when it
+/// cannot be read or is no profile.
+std::optional<std::string> importAircraft(Menu& menu, const std::string& path);
+/// Runs a command of the Weight & Balance page (aircraft, shift, ballast,
+/// profile, field, form): nothing when `command` is none of them, else its
+/// outcome (nothing, or the reason the line cannot be run).
+std::optional<std::optional<std::string>> runLoadingCommand(Menu& menu, std::string_view command,
+                                                            std::string_view argument);
+/// Prints the Weight & Balance page as "show" does.
+void showLoading(const balance::LoadingView& loading, std::ostream& out);
 
 } // namespace zel

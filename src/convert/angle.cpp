@@ -1,13 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // SPDX-FileCopyrightText: 2026 zelFLIGHTAB developers
 #include "convert/convert.h"
+#include "page/units.h"
 
 #include <cmath>
 
 namespace zel {
 
-Report Convert_Angle(PageSheet& page, double x, int& inputRow) {
-    const double pi = Pi;
+Report convertAngle(PageSheet& page, double x, int& inputRow) {
+    const double pi = units::TablePi;
     // To degrees in row 1 first; the π-multiple row uses the exact 180.
     switch (inputRow) {
     case 1:

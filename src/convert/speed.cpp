@@ -14,7 +14,7 @@ constexpr int DescriptionRow = 8;
 
 /// The speed a force stands for when one is typed: the top of its band in
 /// km/h. Force 12 gives 133 km/h, above the 118 where the band starts: a
-/// hurricane has no top, and 133 is the figure the scale has always used here.
+/// hurricane has no top, and 133 is the figure the speed tables give for it.
 constexpr std::array<double, 12> ForceSpeed{5, 11, 19, 28, 38, 49, 61, 74, 88, 102, 117, 133};
 
 /// The Beaufort bands by their highest whole km/h; 118 and above is force 12.
@@ -38,7 +38,7 @@ constexpr std::array<Band, 12> Bands{{{1, "0", "calm"},
 
 } // namespace
 
-Report Convert_Speed(PageSheet& page, double x, int& inputRow) {
+Report convertSpeed(PageSheet& page, double x, int& inputRow) {
     if (inputRow == ForceRow && !(x >= 1 && x <= 12)) {
         return Report::warning("Invalid input (range 1 to 12)");
     }
@@ -70,8 +70,8 @@ Report Convert_Speed(PageSheet& page, double x, int& inputRow) {
             break;
         }
     }
-    page[ForceRow].caption = std::string(force);
-    page[DescriptionRow].caption = std::string(description);
+    page.setText(ForceRow, std::string(force));
+    page.setText(DescriptionRow, std::string(description));
     return {};
 }
 

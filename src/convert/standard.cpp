@@ -4,7 +4,7 @@
 
 namespace zel {
 
-Report Convert_Standard(PageSheet& page, double inputValue, int& inputRow) {
+Report convertByFactor(PageSheet& page, double inputValue, int& inputRow) {
     if (inputValue < 0) {
         return Report::beep(); // negative quantities are refused, money included
     }

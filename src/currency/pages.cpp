@@ -2,11 +2,9 @@
 // SPDX-FileCopyrightText: 2026 zelFLIGHTAB developers
 #include "currency/pages.h"
 
-#include <array>
-
 namespace zel {
 
-Report Convert_Currency(PageSheet& page, double inputValue, int& inputRow) {
+Report convertCurrency(PageSheet& page, double inputValue, int& inputRow) {
     if (inputValue < 0 || page.factor(inputRow) == 0) {
         return Report::beep(); // no negative money, and no rate to convert it with
     }
@@ -24,28 +22,18 @@ Report Convert_Currency(PageSheet& page, double inputValue, int& inputRow) {
     return {};
 }
 
-namespace {
-
-constexpr std::array<PageTable, 1> Pages{{
-    {.number = 18,
-     .name = "Currency", // the factors and row 8 come from the rate store
-     .icon = "currency",
-     .rows = {{{"Australian $ - AUD"},
-               {"Canadian $ - CAD"},
-               {"Euro - EUR"},
-               {"Indian Rupee - INR"},
-               {"Japan Yen - JPY"},
-               {"UK Pound - GBP"},
-               {"US Dollar - USD"}}},
-     .convert = Convert_Currency,
-     .rateStore = true,
-     .keyCaption = "F12"}, // drawn here, although F12 opens Wind Comp
-}};
-
-} // namespace
-
-std::span<const PageTable> currencyPages() {
-    return Pages;
-}
+extern const PageTable CurrencyPage{
+    .name = "Currency", // the factors and row 8 come from the rate store
+    .icon = "currency",
+    .rows = {{{"Australian $ - AUD"},
+              {"Canadian $ - CAD"},
+              {"Euro - EUR"},
+              {"Indian Rupee - INR"},
+              {"Japan Yen - JPY"},
+              {"UK Pound - GBP"},
+              {"US Dollar - USD"}}},
+    .convert = convertCurrency,
+    .rateStore = true,
+};
 
 } // namespace zel

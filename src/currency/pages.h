@@ -4,16 +4,14 @@
 
 #include "page/pagetable.h"
 
-#include <span>
-
 namespace zel {
 
 /// The Currency page: every row through the euro, with the rates of the rate
 /// store as factors (units per euro). A rate that is missing or 0 is not
 /// known: its row stays empty, and a value typed into it is refused.
-Report Convert_Currency(PageSheet& page, double inputValue, int& inputRow);
+Report convertCurrency(PageSheet& page, double inputValue, int& inputRow);
 
-/// The Currency page.
-std::span<const PageTable> currencyPages();
+/// The Currency page: its rows name the currencies by their codes.
+extern const PageTable CurrencyPage;
 
 } // namespace zel

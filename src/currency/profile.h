@@ -5,10 +5,10 @@
 #include <string>
 #include <string_view>
 
-/// The settings file is an INI file handled one key at a time, the way the
-/// Windows profile-string functions handle it, so that a file edited by hand or
-/// written by the Windows version of the program keeps everything else it holds:
-/// other sections and keys, comments, blank lines, order, line ends, encoding.
+/// The settings file is an INI file handled one key at a time, as Windows' own
+/// INI functions handle such files, so that a file edited by hand or by
+/// another tool keeps everything else it holds: other sections and keys,
+/// comments, blank lines, order, line ends, encoding.
 ///
 /// These functions work on the file's bytes; reading and writing the file itself
 /// is the platform's (atomically, so that a crash never leaves half a file).

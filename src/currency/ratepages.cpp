@@ -77,7 +77,7 @@ std::optional<std::string> cutConverterRate(std::string_view page) {
         const std::string_view line = page.substr(0, stop);
         if (const auto marker = line.find(Marker); marker != std::string_view::npos) {
             // The rate follows "bld>"; without one the cut starts at the line's
-            // fourth character, as it always has, and yields text that is no rate.
+            // fourth character and yields text that is no rate.
             const auto bold = line.find("bld>", marker);
             const std::size_t from = bold == std::string_view::npos ? 3 : bold + 4;
             const std::string_view rest = line.substr(std::min(from, line.size()));

@@ -12,12 +12,12 @@
 /// around a download. Pure functions: the transfer itself is the platform's.
 namespace zel {
 
-/// The rate text of a currency-converter answer page, cut as the converter
-/// flow has always cut it: the first line that holds "converter_result", from
-/// just after the following "bld>" up to the next blank ("1.2917" out of
-/// `<span class=bld>1.2917 USD</span>`). Nothing when the page cannot be read
-/// that way: an empty line or the end of the page comes before the marker, or
-/// no blank follows. A page without a result gives a text holding "color".
+/// The rate text of a currency-converter answer page: the first line that
+/// holds "converter_result", from just after the following "bld>" up to the
+/// next blank ("1.2917" out of `<span class=bld>1.2917 USD</span>`). Nothing
+/// when the page cannot be read that way: an empty line or the end of the
+/// page comes before the marker, or no blank follows. A page without a result
+/// gives a text holding "color".
 std::optional<std::string> cutConverterRate(std::string_view page);
 
 /// The rates of the European Central Bank's daily reference feed, by currency
@@ -35,7 +35,7 @@ std::string percentEncode(std::string_view text);
 std::string fileSafe(std::string_view text);
 
 /// The whole day number of a date, counted from 30 December 1899 (day 0), the
-/// serial that the settings file's "Date" has always held: 1 January 2000 is 36526.
+/// serial that the settings file's "Date" holds: 1 January 2000 is 36526.
 int daySerial(std::chrono::year_month_day date);
 
 /// A day number as a pilot reads it: 45471 is "28 Jun 2024".

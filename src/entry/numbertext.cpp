@@ -325,7 +325,7 @@ std::optional<double> readRegional(std::string_view text, const Symbols& symbols
     return parseAscii(ascii);
 }
 
-double CGetal(std::string_view text, const Symbols& symbols) {
+double readNumber(std::string_view text, const Symbols& symbols) {
     if (text.empty() || !readRegional(text, symbols)) {
         return 0;
     }
@@ -335,8 +335,14 @@ double CGetal(std::string_view text, const Symbols& symbols) {
     return *readRegional(text, symbols);
 }
 
-double textValue(std::string_view text, const Symbols& symbols) {
-    return readRegional(text, symbols).value_or(0);
+double roundSignificant(double value, int digits) {
+    const Decimal d = toDecimal(value, digits);
+    if (d.digits.empty()) {
+        return value; // zero, or nothing finite to round
+    }
+    const std::string ascii =
+        (d.negative ? "-0." : "0.") + d.digits + "e" + std::to_string(d.exponent + 1);
+    return parseAscii(ascii).value_or(value);
 }
 
 } // namespace zel

@@ -45,13 +45,15 @@ std::string formatNumber(double value, std::string_view pattern, const Symbols& 
 /// Returns nothing for any other text, or for a value beyond the double range.
 std::optional<double> readRegional(std::string_view text, const Symbols& symbols);
 
-/// `CGetal`: the value of a text, 0 for anything that is not a number.
+/// The value of a number being typed, 0 for anything that is not a number.
 /// Where the decimal symbol is "." the text is read from its start the way a
 /// plain-number reader does (it stops at the first character that cannot continue
 /// the number, so "1,234" is 1); elsewhere it is read the regional way.
-double CGetal(std::string_view text, const Symbols& symbols);
+double readNumber(std::string_view text, const Symbols& symbols);
 
-/// The regional reading of a stored text, 0 when it is not a number.
-double textValue(std::string_view text, const Symbols& symbols);
+/// The double nearest to `value` rounded to `digits` significant decimal
+/// digits: what a value shown with that many digits reads back as. A value
+/// kept this way prints the same in every regional form.
+double roundSignificant(double value, int digits);
 
 } // namespace zel

@@ -41,18 +41,21 @@ void ScratchPad::reset(bool textPage) {
         m_newOperand = false;
     } else {
         m_accumulator = 0;
-        m_pendingOperator = 0;
+        m_pendingOperator = Operator::Equals;
     }
 }
 
 void ScratchPad::displayValue() {
     const std::string& dec = m_symbols.decimal;
+    // A minus typed before the digits stays, on "-0." too.
+    const bool negative = m_inputValue < 0 || m_inputText.starts_with('-');
     if (!contains(m_inputText, dec)) {
-        m_display = formatNumber(m_inputValue, "#,##0", m_symbols) + dec;
+        m_display = (negative && m_inputValue == 0 ? "-" : "") +
+                    formatNumber(m_inputValue, "#,##0", m_symbols) + dec;
     } else if (containsE(m_inputText)) {
         m_display = m_inputText;
     } else {
-        const std::string sign = m_inputValue < 0 ? "-" : "";
+        const std::string sign = negative ? "-" : "";
         const double whole = std::trunc(std::fabs(m_inputValue));
         const std::string typedFraction = m_inputText.substr(m_inputText.find(dec) + dec.size());
         m_display = sign + formatNumber(whole, "#,##0", m_symbols) + dec + typedFraction;
@@ -67,8 +70,6 @@ void ScratchPad::redisplay(bool textPage, const Symbols& before) {
     }
     if (textPage) {
         m_display = m_inputText;
-    } else if (m_inputText == "-0") {
-        m_display = "-0" + m_symbols.decimal; // a negative number begun
     } else {
         displayValue();
     }
@@ -87,16 +88,16 @@ ScratchPad::Typed ScratchPad::typeDigit(int digit) {
     }
     if (contains(m_inputText, dec)) {
         m_inputText += static_cast<char>('0' + digit);
-        m_inputValue = CGetal(m_inputText, m_symbols);
+        m_inputValue = readNumber(m_inputText, m_symbols);
     } else {
         // Whole digits accumulate arithmetically, keeping the sign shown.
-        const double sign = m_display.starts_with("-") ? -1 : 1;
-        const double value = sign * (std::fabs(m_inputValue) * 10 + digit);
+        const bool negative = m_inputText.starts_with('-') || m_inputValue < 0;
+        const double value = (negative ? -1 : 1) * (std::fabs(m_inputValue) * 10 + digit);
         if (!std::isfinite(value)) {
             return Typed::Overflow;
         }
         m_inputValue = value;
-        m_inputText = generalText(m_inputValue, m_symbols);
+        m_inputText = (negative && value == 0 ? "-" : "") + generalText(m_inputValue, m_symbols);
     }
     m_typed = true;
     displayValue();
@@ -127,15 +128,18 @@ void ScratchPad::backspace() {
     if (m_inputText.ends_with(m_symbols.decimal)) {
         m_inputText.resize(m_inputText.size() - m_symbols.decimal.size());
     }
-    m_inputValue = CGetal(m_inputText, m_symbols);
+    if (m_inputText == "-") {
+        m_inputText = "0"; // the sign goes with the last figure
+    }
+    m_inputValue = readNumber(m_inputText, m_symbols);
     displayValue();
 }
 
-void ScratchPad::select(const std::string& text) {
+void ScratchPad::select(double value) {
     m_typed = false;
     m_carried = true;
-    m_inputText = text;
-    m_inputValue = textValue(text, m_symbols);
+    m_inputText = generalText(value, m_symbols);
+    m_inputValue = value;
     displayValue();
 }
 
@@ -157,8 +161,8 @@ void ScratchPad::backspaceText() {
     }
 }
 
-Faulted ScratchPad::operate(int key) {
-    if (key == 2 && m_inputValue == 0) {
+Faulted ScratchPad::operate(Operator key) {
+    if (key == Operator::Subtract && m_inputValue == 0) {
         // Minus on an empty entry starts a negative number.
         m_display = "-0" + m_symbols.decimal;
         m_inputText = "-0";
@@ -167,23 +171,24 @@ Faulted ScratchPad::operate(int key) {
     }
     double result = m_inputValue;
     switch (m_pendingOperator) {
-    case 1:
+    case Operator::Add:
         result = m_accumulator + m_inputValue;
         break;
-    case 2:
+    case Operator::Subtract:
         result = m_accumulator - m_inputValue;
         break;
-    case 3:
+    case Operator::Multiply:
         result = m_accumulator * m_inputValue;
         break;
-    case 4:
+    case Operator::Divide:
         if (m_inputValue == 0) {
             return Fault::DivisionByZero;
         }
         result = m_accumulator / m_inputValue;
         break;
-    default:
-        break;
+    case Operator::Equals:
+    case Operator::DivideLower:
+        break; // the lower face of the divide key divides nothing
     }
     if (!std::isfinite(result)) {
         return Fault::Overflow;
@@ -195,20 +200,22 @@ Faulted ScratchPad::operate(int key) {
     m_inputText = generalText(result, m_symbols);
     displayValue();
     m_operatorLit.fill(false);
-    if (key == 0) {
+    if (key == Operator::Equals) {
         m_newOperand = false;
         m_carried = true; // a result
-    } else if (key <= 3) {
-        m_operatorLit.at(static_cast<std::size_t>(key)) = true;
+    } else if (key == Operator::Divide || key == Operator::DivideLower) {
+        // Both faces of the divide key light up together.
+        m_operatorLit[static_cast<std::size_t>(Operator::Divide)] = true;
+        m_operatorLit[static_cast<std::size_t>(Operator::DivideLower)] = true;
     } else {
-        m_operatorLit[4] = m_operatorLit[5] = true;
+        m_operatorLit.at(static_cast<std::size_t>(key)) = true;
     }
     return std::nullopt;
 }
 
-Faulted ScratchPad::memoryKey(int key) {
+Faulted ScratchPad::memoryKey(MemoryKey key) {
     switch (key) {
-    case 0:
+    case MemoryKey::Recall:
         if (m_inputValue != m_memory) {
             m_inputValue = m_memory;
             m_inputText = generalText(m_memory, m_symbols);
@@ -216,19 +223,20 @@ Faulted ScratchPad::memoryKey(int key) {
         } else {
             m_memory = 0;
         }
+        m_carried = true;
         displayValue();
         break;
-    case 1:
-    case 2: {
-        const double sum = key == 1 ? m_memory + m_inputValue : m_memory - m_inputValue;
+    case MemoryKey::Add:
+    case MemoryKey::Subtract: {
+        const double sum =
+            key == MemoryKey::Add ? m_memory + m_inputValue : m_memory - m_inputValue;
         if (!std::isfinite(sum)) {
             return Fault::Overflow;
         }
         m_memory = sum;
+        m_carried = true; // the number is done with: the next digit starts another
         break;
     }
-    default:
-        return std::nullopt;
     }
     m_memoryLit = m_memory != 0;
     return std::nullopt;

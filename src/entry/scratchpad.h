@@ -10,15 +10,19 @@
 
 namespace zel {
 
+/// The calculator's operator keys. The divide key has two faces: the upper
+/// divides; the lower lights up like it but divides nothing.
+enum class Operator { Equals, Add, Subtract, Multiply, Divide, DivideLower };
+inline constexpr int OperatorCount = 6;
+
+/// The memory keys: MRC recalls (or clears when already recalled), M+ and M-.
+enum class MemoryKey { Recall, Add, Subtract };
+
 /// The number being typed and the small four-function calculator beside the
 /// rows: operand entry, chained operators with no precedence, and a memory.
 /// The entry is both the calculator's operand and the value a row click takes.
 class ScratchPad {
   public:
-    /// Operator keys: 0 equals, 1 add, 2 subtract, 3 multiply, 4 divide. Key 5 is
-    /// the lower face of the divide key: it lights up like 4 but divides nothing.
-    static constexpr int Operators = 5;
-
     explicit ScratchPad(const Symbols& symbols) : m_symbols(symbols) {}
 
     const std::string& inputText() const { return m_inputText; }
@@ -30,17 +34,19 @@ class ScratchPad {
     /// A long display (more than 11 characters) is drawn smaller.
     bool displayCompact() const { return m_displayCompact; }
     double accumulator() const { return m_accumulator; }
-    int pendingOperator() const { return m_pendingOperator; }
+    /// The operation waiting for its right operand; Equals for none.
+    Operator pendingOperator() const { return m_pendingOperator; }
+    bool pending() const { return m_pendingOperator != Operator::Equals; }
     bool newOperand() const { return m_newOperand; }
     double memory() const { return m_memory; }
-    bool operatorLit(int key) const { return m_operatorLit.at(static_cast<std::size_t>(key)); }
+    bool operatorLit(Operator key) const { return m_operatorLit.at(static_cast<std::size_t>(key)); }
     bool memoryLit() const { return m_memoryLit; }
 
-    /// `ResetScratchPad`: clears the entry (to "" on a text page such as the
+    /// Clears the entry (to "" on a text page such as the
     /// runway-state decoder), and the calculation too unless an operand is just
     /// beginning after an operator key.
     void reset(bool textPage);
-    /// `DisplayValue`: shows the entry the way a pocket calculator does.
+    /// Shows the entry the way a pocket calculator does.
     void displayValue();
     /// Shows the entry again after the regional symbols were read afresh:
     /// a decimal symbol typed as `before`'s becomes today's.
@@ -53,8 +59,8 @@ class ScratchPad {
     Typed typeDigit(int digit);
     void typeDecimal();
     void backspace();
-    /// The entry becomes a stored row value, as text and number.
-    void select(const std::string& text);
+    /// The entry becomes a row's value.
+    void select(double value);
     /// The entry is a number the user did not type here (a row's value, a
     /// recalled memory, a result, an entry brought from another page): the
     /// next digit or decimal key starts a new number, as on every calculator.
@@ -72,13 +78,15 @@ class ScratchPad {
     bool typeText(char32_t c, std::size_t limit);
     void backspaceText();
 
-    /// `LabOP_Click`. The fault, having changed nothing, when the pending
-    /// operation divides by zero or leaves the double range.
-    Faulted operate(int key);
+    /// An operator key: carries out the pending operation and makes this one
+    /// pending. The fault, having changed nothing, when the pending operation
+    /// divides by zero or leaves the double range.
+    Faulted operate(Operator key);
     /// Forgets the pending operation (a row click ends an unfinished calculation).
-    void dropPending() { m_pendingOperator = 0; }
-    /// MRC (0: recall, or clear when already recalled), M+ (1), M- (2).
-    Faulted memoryKey(int key);
+    void dropPending() { m_pendingOperator = Operator::Equals; }
+    /// A memory key. Each ends the number being typed: the next digit starts
+    /// another, as after a result.
+    Faulted memoryKey(MemoryKey key);
 
   private:
     /// A carried number gives way to the first digit or decimal key.
@@ -92,10 +100,10 @@ class ScratchPad {
     bool m_displayCompact = false;
     bool m_carried = false;
     double m_accumulator = 0;
-    int m_pendingOperator = 0;
+    Operator m_pendingOperator = Operator::Equals;
     bool m_newOperand = false;
     double m_memory = 0;
-    std::array<bool, Operators + 1> m_operatorLit{};
+    std::array<bool, OperatorCount> m_operatorLit{};
     bool m_memoryLit = false;
 };
 

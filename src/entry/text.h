@@ -27,6 +27,11 @@ constexpr char lowerCase(char c) {
 std::string upperCase(std::string_view text);
 std::string lowerCase(std::string_view text);
 
+/// What stands for a blank in pasted text besides the space: tabs, line
+/// breaks, and the no-break, narrow no-break and thin spaces.
+inline constexpr std::string_view OtherBlanks[] = {"\t",       "\r",           "\n",
+                                                   "\xC2\xA0", "\xE2\x80\xAF", "\xE2\x80\x89"};
+
 /// The number of characters of UTF-8 text (its bytes that start one).
 std::size_t charCount(std::string_view text);
 /// Appends one character as UTF-8.

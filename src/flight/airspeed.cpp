@@ -22,9 +22,7 @@ double standardTemperature(double altitudeFeet) {
     return atmosphere::isaKelvin(altitudeFeet);
 }
 
-double kelvin(double celsius) {
-    return celsius + ZeroCelsius;
-}
+using units::kelvin;
 
 /// Total over static temperature for a Mach number and recovery factor.
 double heating(double mach, double kr) {
@@ -125,7 +123,7 @@ double machFromImpactPressure(double ratio) {
     return (low + high) / 2;
 }
 
-Report Convert_MachAS(PageSheet& page, double x, int& inputRow) {
+Report convertAirspeeds(PageSheet& page, double x, int& inputRow) {
     if (inputRow != Sat && inputRow != Tat && x < 0) {
         return Report::beep();
     }
@@ -138,14 +136,14 @@ Report Convert_MachAS(PageSheet& page, double x, int& inputRow) {
         page.setValue(Recovery, 1);
     }
     page.setValue(inputRow, x);
-    page[inputRow].computed = false;
-    // Only typed temperatures count as given: a derived one gives way to the
+    page[inputRow].derived = false;
+    // Only typed temperatures count as given: a worked-out one gives way to the
     // speed or temperature the pilot types next.
     for (int row : {Sat, Tat}) {
         const bool typedSpeedOrTemperature = inputRow != Altitude && inputRow != Recovery;
-        if (row != inputRow && page[row].computed && typedSpeedOrTemperature) {
+        if (row != inputRow && page[row].derived && typedSpeedOrTemperature) {
             page.clear(row);
-            page[row].computed = false;
+            page[row].derived = false;
         }
     }
     if (page.value(Mach) == 0 && page.value(Cas) == 0 && page.value(Eas) == 0 &&
@@ -169,11 +167,11 @@ Report Convert_MachAS(PageSheet& page, double x, int& inputRow) {
     }
     if (s->satComputed) {
         page.setValue(Sat, s->sat);
-        page[Sat].computed = true;
+        page[Sat].derived = true;
     }
     if (s->tatComputed) {
         page.setValue(Tat, s->tat);
-        page[Tat].computed = true;
+        page[Tat].derived = true;
     }
     page.setValue(Mach, s->mach);
     page.setValue(Cas, cas);

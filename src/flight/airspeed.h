@@ -21,6 +21,6 @@ double impactPressureRatio(double mach);
 double machFromImpactPressure(double ratio);
 
 /// Mach - AS page: altitude, Mach, SAT, CAS, TAT, EAS, recovery factor, TAS.
-Report Convert_MachAS(PageSheet& page, double inputValue, int& inputRow);
+Report convertAirspeeds(PageSheet& page, double inputValue, int& inputRow);
 
 } // namespace zel

@@ -11,7 +11,6 @@ namespace {
 
 using namespace solver;
 
-// The ICAO standard atmosphere below the tropopause.
 constexpr double P0 = atmosphere::SeaLevelPressure;
 constexpr double T0 = atmosphere::SeaLevelTemperature;
 constexpr double N = atmosphere::Exponent;
@@ -20,23 +19,21 @@ constexpr double HectopascalsPerInch = 33.8638866667;
 
 enum Quantity { Altitude, Qnh, PressureAltitude, Oat, Deviation, DensityAltitude, IsaTemperature };
 
-using atmosphere::pressureRatio;
-
-/// Altitude, QNH and pressure altitude: the station pressure is
-/// QNH x (1 - A / H0)^n, and the pressure altitude is where the standard
-/// atmosphere has that pressure. The QNH is never worked out from the two
-/// altitudes: only the newer of them counts.
+/// Altitude, QNH and pressure altitude: the altimeter, set to QNH, reads the
+/// altitude whose pressure is QNH x (1 - A / H0)^n, and the pressure altitude
+/// is where the standard atmosphere has that pressure. The QNH is never worked
+/// out from the two altitudes: only the newer of them counts.
 double altimeter(int target, const std::array<double, 3>& v) {
     const double a = v[0], qnh = v[1], pa = v[2];
     if (target == 1) {
         return std::numeric_limits<double>::quiet_NaN();
     }
-    return target == 0 ? H0 * (1 - std::pow(P0 * pressureRatio(pa) / qnh, 1 / N))
-                       : H0 * (1 - std::pow(qnh * std::pow(1 - a / H0, N) / P0, 1 / N));
+    return target == 0 ? H0 * (1 - std::pow(P0 * atmosphere::pressureRatio(pa) / qnh, 1 / N))
+                       : atmosphere::pressureAltitude(qnh * std::pow(1 - a / H0, N) / P0);
 }
 
-/// 1.98 °C colder per 1000 ft: 15 - 0.0019812 x PA. The ISA temperature is
-/// only ever a result.
+/// The standard temperature at the pressure altitude: 1.98 °C colder per
+/// 1000 ft up to -56.5 °C at the tropopause. Only ever a result.
 double isa(int, const std::array<double, 3>& v) {
     return atmosphere::isaCelsius(v[0]);
 }
@@ -47,11 +44,11 @@ double deviation(int target, const std::array<double, 3>& v) {
     return target == 0 ? isaTemperature + dev : target == 1 ? oat - dev : oat - isaTemperature;
 }
 
-/// The standard altitude of the air's density: sigma = p/p0 x T0/T, and
-/// DA = H0 (1 - sigma^(1/(n-1))). It is only ever a result.
+/// The standard altitude of the air's density, sigma = p/p0 x T0/T. It is
+/// only ever a result.
 double density(int, const std::array<double, 3>& v) {
-    const double sigma = pressureRatio(v[0]) * T0 / (v[1] + 273.15);
-    return H0 * (1 - std::pow(sigma, 1 / (N - 1)));
+    const double sigma = atmosphere::pressureRatio(v[0]) * T0 / units::kelvin(v[1]);
+    return atmosphere::densityAltitude(sigma);
 }
 
 double toInches(double hpa) {
@@ -83,7 +80,6 @@ constexpr Range TemperatureRange{-80, 60, false, BadTemperature};
 // One given counts from each group: altitude or pressure altitude, QNH in
 // either unit, OAT or deviation, the newest of each.
 extern const PageTable AltitudePage{
-    .number = 19,
     .name = "Altitude",
     .icon = "altitude",
     .rows = {{
@@ -118,12 +114,11 @@ extern const PageTable AltitudePage{
          .quantity = Deviation,
          .sign = Sign::Any,
          .group = 3,
-         .range = {-60, 60, false, BadTemperature}},
+         .range = {-60, 60, false, "Invalid temperature (range -60 - 60 °C)"}},
         {.unit = "Density Altitude - ft", .quantity = DensityAltitude},
         {.unit = "ISA Temperature - °C", .quantity = IsaTemperature},
     }},
     .formulas = {.relations = Relations, .defaults = Defaults},
-    .zeroIsValue = true,
 };
 
 } // namespace zel

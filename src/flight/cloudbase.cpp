@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // SPDX-FileCopyrightText: 2026 zelFLIGHTAB developers
 #include "page/solver.h"
+#include "page/units.h"
 
 #include <cmath>
 #include <limits>
@@ -44,10 +45,10 @@ double fromFeet(double feet) {
     return feet / FeetPerDegreeOfSpread;
 }
 double toMetres(double spread) {
-    return toFeet(spread) * 0.3048;
+    return units::feetToMetres(toFeet(spread));
 }
 double fromMetres(double metres) {
-    return fromFeet(metres / 0.3048);
+    return fromFeet(units::metresToFeet(metres));
 }
 
 constexpr std::string_view BadTemperature = "Invalid temperature (range -80 - 60 °C)";
@@ -77,7 +78,6 @@ constexpr Range TemperatureRange{-80, 60, false, BadTemperature};
 // The spread is one quantity with the base above ground in feet and metres.
 // Temperature, dew point and spread give each other; the elevation is its own.
 extern const PageTable CloudBasePage{
-    .number = 23,
     .name = "Cloud Base",
     .icon = "cloudBase",
     .rows = {{
@@ -105,7 +105,6 @@ extern const PageTable CloudBasePage{
         {.unit = "Cloud Base - ft AMSL", .quantity = BaseAmsl},
     }},
     .formulas = {.relations = Relations, .freedom = 3, .check = saturated},
-    .zeroIsValue = true,
 };
 
 } // namespace zel

@@ -2,17 +2,18 @@
 // SPDX-FileCopyrightText: 2026 zelFLIGHTAB developers
 #include "page/solver.h"
 
+#include "page/units.h"
+
 #include <cmath>
-#include <numbers>
 
 namespace zel {
 namespace {
 
 using namespace solver;
 
-/// Feet in a nautical mile (1852 m): a gradient in ft/nm over this is the
-/// tangent of the path angle.
-constexpr double FeetPerNauticalMile = 6076.12;
+/// A gradient in ft/nm over the feet in a nautical mile is the tangent of the
+/// path angle.
+using units::FeetPerNauticalMile;
 
 enum Quantity { Height, Distance, GroundSpeed, Minutes, VerticalSpeed, Gradient };
 
@@ -23,10 +24,10 @@ double minutes(int target, const std::array<double, 3>& v) {
 }
 
 double toAngle(double gradient) {
-    return std::atan(gradient / FeetPerNauticalMile) * 180 / std::numbers::pi;
+    return units::degrees(std::atan(gradient / FeetPerNauticalMile));
 }
 double fromAngle(double degrees) {
-    return std::tan(degrees * std::numbers::pi / 180) * FeetPerNauticalMile;
+    return std::tan(units::radians(degrees)) * FeetPerNauticalMile;
 }
 double toPercent(double gradient) {
     return 100 * gradient / FeetPerNauticalMile;
@@ -56,7 +57,6 @@ constexpr Relation Relations[] = {
 
 // The path is one quantity, shown as an angle, a gradient and a percentage.
 extern const PageTable DescentPage{
-    .number = 20,
     .name = "Descent",
     .icon = "descent",
     .rows = {{
@@ -69,12 +69,19 @@ extern const PageTable DescentPage{
          .quantity = Gradient,
          .toRow = toAngle,
          .fromRow = fromAngle,
-         .range = {0, 45, true, BadAngle}},
-        {.unit = "Gradient - ft/nm", .quantity = Gradient},
-        {.unit = "Gradient - %", .quantity = Gradient, .toRow = toPercent, .fromRow = fromPercent},
+         .range = {0, 45, true, BadAngle, true}},
+        // 45° is a gradient as steep as the nautical mile is long.
+        {.unit = "Gradient - ft/nm",
+         .quantity = Gradient,
+         .range = {0, FeetPerNauticalMile, true, "Invalid gradient (range 0 - 6076.12 ft/nm)",
+                   true}},
+        {.unit = "Gradient - %",
+         .quantity = Gradient,
+         .toRow = toPercent,
+         .fromRow = fromPercent,
+         .range = {0, 100, true, "Invalid gradient (range 0 - 100 %)", true}},
     }},
     .formulas = {.relations = Relations, .freedom = 3, .check = steep},
-    .zeroIsValue = true,
 };
 
 } // namespace zel

@@ -77,7 +77,7 @@ bool solveQuantityOrFlow(PageSheet& page, FlowOf flowOf, QuantityOf quantityOf) 
 
 } // namespace
 
-Report Convert_FuelUplift(PageSheet& page, double x, int& inputRow) {
+Report convertFuelUplift(PageSheet& page, double x, int& inputRow) {
     if (x < 0) {
         return Report::beep();
     }
@@ -126,7 +126,7 @@ Report Convert_FuelUplift(PageSheet& page, double x, int& inputRow) {
     return report;
 }
 
-Report Convert_Endurance(PageSheet& page, double x, int& inputRow) {
+Report convertEndurance(PageSheet& page, double x, int& inputRow) {
     if (x < 0) {
         return Report::beep();
     }
@@ -157,7 +157,7 @@ Report Convert_Endurance(PageSheet& page, double x, int& inputRow) {
     return {};
 }
 
-Report Convert_Range(PageSheet& page, double x, int& inputRow) {
+Report convertFuelRange(PageSheet& page, double x, int& inputRow) {
     if (x < 0) {
         return Report::beep();
     }

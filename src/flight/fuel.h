@@ -13,10 +13,10 @@ inline constexpr double PoundsPerKilogram = 2.205;
 inline constexpr double LitresPerUsGallon = 3.78541178;
 
 /// Fuel Uplift: remaining fuel plus uplift times density, in kg and in lbs.
-Report Convert_FuelUplift(PageSheet& page, double inputValue, int& inputRow);
+Report convertFuelUplift(PageSheet& page, double inputValue, int& inputRow);
 /// Endurance: quantity / flow in hours and minutes, or either from the endurance.
-Report Convert_Endurance(PageSheet& page, double inputValue, int& inputRow);
+Report convertEndurance(PageSheet& page, double inputValue, int& inputRow);
 /// Fuel Range: quantity / flow x ground speed, or quantity or flow from a range.
-Report Convert_Range(PageSheet& page, double inputValue, int& inputRow);
+Report convertFuelRange(PageSheet& page, double inputValue, int& inputRow);
 
 } // namespace zel

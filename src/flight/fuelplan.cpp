@@ -37,7 +37,6 @@ constexpr Relation Relations[] = {
 // The fuel rows are in whatever unit the flow is in. Only the reserve may be
 // 0 (no reserve planned); every other zero is refused.
 extern const PageTable FuelPlanPage{
-    .number = 22,
     .name = "Fuel Plan",
     .icon = "fuelPlan",
     .rows = {{
@@ -51,7 +50,6 @@ extern const PageTable FuelPlanPage{
         {.unit = "Fuel Required", .quantity = Required},
     }},
     .formulas = {.relations = Relations, .freedom = 4},
-    .zeroIsValue = true,
 };
 
 } // namespace zel

@@ -88,7 +88,7 @@ void showSide(PageSheet& page, int entryRow, int offsetRow, const Entries& entri
     if (entries.alternative) {
         caption += " / " + std::string(EntryNames[static_cast<std::size_t>(*entries.alternative)]);
     }
-    page[entryRow].caption = caption;
+    page.setText(entryRow, caption);
     const bool teardrop =
         entries.sector == Entry::Teardrop || entries.alternative == Entry::Teardrop;
     if (teardrop) {
@@ -98,7 +98,7 @@ void showSide(PageSheet& page, int entryRow, int offsetRow, const Entries& entri
     }
 }
 
-Report Convert_Holding(PageSheet& page, double x, int& inputRow) {
+Report convertHolding(PageSheet& page, double x, int& inputRow) {
     if (x < 0) {
         return Report::beep();
     }
@@ -109,7 +109,6 @@ Report Convert_Holding(PageSheet& page, double x, int& inputRow) {
     if (!page.holds(Inbound) || !page.holds(Heading)) {
         for (int row = Outbound; row <= Angle; ++row) {
             page.clear(row);
-            page[row].caption.clear();
         }
         return {};
     }
@@ -128,7 +127,6 @@ Report Convert_Holding(PageSheet& page, double x, int& inputRow) {
 } // namespace
 
 extern const PageTable HoldingPage{
-    .number = 26,
     .name = "Holding",
     .icon = "holding",
     .rows = {{
@@ -141,8 +139,7 @@ extern const PageTable HoldingPage{
         row("Left Turns - offset °", Form::Direction, OutputOnly),
         row("Angle to Inbound - °", Form::Direction, OutputOnly),
     }},
-    .convert = Convert_Holding,
-    .zeroIsValue = true,
+    .convert = convertHolding,
 };
 
 } // namespace zel

@@ -5,14 +5,17 @@
 // beginning of morning civil twilight. The sun's position follows NOAA's
 // solar calculator equations (after Meeus, Astronomical Algorithms).
 #include "page/pagetable.h"
+#include "page/places.h"
+#include "page/units.h"
 
+#include <algorithm>
 #include <array>
 #include <chrono>
 #include <cmath>
 #include <cstdio>
-#include <numbers>
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace zel {
 namespace {
@@ -36,12 +39,7 @@ constexpr double CivilZenith = 96;
 
 constexpr double MinutesPerDay = 1440;
 
-double radians(double degrees) {
-    return degrees * std::numbers::pi / 180;
-}
-double degrees(double radians) {
-    return radians * 180 / std::numbers::pi;
-}
+using places::dayOf, places::numberOf, units::degrees, units::radians;
 
 /// The sun at a moment: its declination (degrees) and the equation of time
 /// (minutes), from the Julian century since J2000.0.
@@ -101,15 +99,49 @@ std::optional<double> event(double day, double latitude, double longitude, doubl
     return minutes;
 }
 
-/// Whether the sun stays above `zenith` all day (true) or below it (false),
-/// on a day it neither rises nor sets.
-bool alwaysAbove(double day, double latitude, double longitude, double zenith) {
-    const SunPosition sun = sunAt(day + (720 - 4 * longitude) / MinutesPerDay);
+/// Whether the sun's centre is above `zenith` at a minute of the UTC day.
+bool above(double day, double minutes, double latitude, double longitude, double zenith) {
+    const SunPosition sun = sunAt(day + minutes / MinutesPerDay);
+    // The hour angle from true solar time: noon is 0°, 15° an hour.
+    const double solar = minutes + sun.equationOfTime + 4 * longitude;
+    const double hourAngle = radians(solar / 4 - 180);
     const double phi = radians(latitude);
     const double delta = radians(sun.declination);
-    return std::cos(radians(zenith)) / (std::cos(phi) * std::cos(delta)) -
-               std::tan(phi) * std::tan(delta) <
-           -1;
+    const double cosine =
+        std::sin(phi) * std::sin(delta) + std::cos(phi) * std::cos(delta) * std::cos(hourAngle);
+    return cosine > std::cos(radians(zenith));
+}
+
+/// The minutes of the UTC day the sun's centre spends above `zenith`: from
+/// each rising to the setting that follows, the day's ends included, so that
+/// a day with only a sunset counts from 0:00 and one with no event is all
+/// day or none of it. The day before's and the day after's events count
+/// where they fall within it.
+double minutesAbove(double day, double latitude, double longitude, double zenith) {
+    std::vector<std::pair<double, bool>> crossings; // minute, rising
+    for (int offset = -1; offset <= 1; ++offset) {
+        for (const bool rising : {true, false}) {
+            const auto at = event(day + offset, latitude, longitude, zenith, rising);
+            const double minute = at ? *at + offset * MinutesPerDay : -1;
+            if (at && minute > 0 && minute < MinutesPerDay) {
+                crossings.emplace_back(minute, rising);
+            }
+        }
+    }
+    std::sort(crossings.begin(), crossings.end());
+    bool up = above(day, 0, latitude, longitude, zenith);
+    double since = 0;
+    double total = 0;
+    for (const auto& [minute, rising] : crossings) {
+        if (rising && !up) {
+            since = minute;
+            up = true;
+        } else if (!rising && up) {
+            total += minute - since;
+            up = false;
+        }
+    }
+    return up ? total + MinutesPerDay - since : total;
 }
 
 constexpr std::array<const char*, 12> Months{"Jan", "Feb", "Mar", "Apr", "May", "Jun",
@@ -140,46 +172,20 @@ std::string hoursText(double minutes) {
     return text;
 }
 
-/// yyyymmdd as a day of the Gregorian calendar; nothing for another number.
-std::optional<std::chrono::year_month_day> dayOf(double value) {
-    if (value != std::floor(value) || value < 10000101 || value > 99991231) {
-        return std::nullopt;
-    }
-    const auto n = static_cast<long>(value);
-    const std::chrono::year_month_day day{std::chrono::year(static_cast<int>(n / 10000)),
-                                          std::chrono::month(static_cast<unsigned>(n / 100 % 100)),
-                                          std::chrono::day(static_cast<unsigned>(n % 100))};
-    if (!day.ok()) {
-        return std::nullopt;
-    }
-    return day;
-}
-
-double numberOf(std::chrono::year_month_day day) {
-    return static_cast<int>(day.year()) * 10000 + static_cast<unsigned>(day.month()) * 100 +
-           static_cast<unsigned>(day.day());
-}
-
 void setCaption(PageSheet& page, int row, std::string caption) {
-    page[row].caption = std::move(caption);
+    page.setText(row, std::move(caption));
 }
 
-Report Convert_Sun(PageSheet& page, double x, int& inputRow) {
-    if (inputRow == Latitude && !(x >= -90 && x <= 90)) {
-        return Report::warning("Invalid latitude (range -90 - 90°)");
-    }
-    if (inputRow == Longitude && !(x >= -180 && x <= 180)) {
-        return Report::warning("Invalid longitude (range -180 - 180°)");
-    }
+Report convertSun(PageSheet& page, double x, int& inputRow) {
     if (inputRow == Date && !dayOf(x)) {
-        return Report::warning("Invalid date (yyyymmdd)");
+        return Report::warning(places::BadDate);
     }
     page.setValue(inputRow, x);
     if (!page.holds(Date)) {
         page.setValue(Date, numberOf(page.today()));
     }
     for (int row = Dawn; row <= Daylight; ++row) {
-        page[row].caption.clear();
+        page.clear(row);
     }
     if (!page.holds(Latitude) || !page.holds(Longitude)) {
         return {};
@@ -202,10 +208,7 @@ Report Convert_Sun(PageSheet& page, double x, int& inputRow) {
         setCaption(page, p.riseRow, rise ? clockText(*rise, day) : p.noRise);
         setCaption(page, p.setRow, set ? clockText(*set, day) : p.noSet);
         if (p.zenith == SunriseZenith) {
-            const double daylight = rise && set                                      ? *set - *rise
-                                    : alwaysAbove(jd, latitude, longitude, p.zenith) ? MinutesPerDay
-                                                                                     : 0;
-            setCaption(page, Daylight, hoursText(daylight));
+            setCaption(page, Daylight, hoursText(minutesAbove(jd, latitude, longitude, p.zenith)));
         }
     }
     return {};
@@ -214,12 +217,11 @@ Report Convert_Sun(PageSheet& page, double x, int& inputRow) {
 } // namespace
 
 extern const PageTable SunPage{
-    .number = 27,
     .name = "Sun",
     .icon = "sun",
     .rows = {{
-        row("Latitude - °", Form::Number),
-        row("Longitude - °", Form::Number),
+        places::latitudeRow("Latitude - °"),
+        places::longitudeRow("Longitude - °"),
         row("Date - yyyymmdd", Form::Date),
         row("Civil Dawn - UTC", Form::Text, OutputOnly),
         row("Sunrise - UTC", Form::Text, OutputOnly),
@@ -227,8 +229,7 @@ extern const PageTable SunPage{
         row("Civil Dusk - UTC", Form::Text, OutputOnly),
         row("Daylight - h:mm", Form::Text, OutputOnly),
     }},
-    .convert = Convert_Sun,
-    .zeroIsValue = true,
+    .convert = convertSun,
 };
 
 } // namespace zel

@@ -8,6 +8,8 @@
 #include "flight/atmosphere.h"
 #include "page/solver.h"
 
+#include <cmath>
+
 namespace zel {
 namespace {
 
@@ -33,10 +35,12 @@ double deviation(int target, const std::array<double, 3>& v) {
     return target == 0 ? isa + dev : target == 2 ? oat - isa : std::nan("");
 }
 
-/// (OAT + 273.15) / (ISA + 273.15).
+/// The air's temperature over the standard temperature at the pressure
+/// altitude, in kelvin: the standard temperature stops falling at the
+/// tropopause, so that in standard air above it the correction is 0 too.
 double ratio(int, const std::array<double, 3>& v) {
     const double oat = v[1], pa = v[2];
-    return (oat + atmosphere::ZeroCelsius) / (atmosphere::isaCelsius(pa) + atmosphere::ZeroCelsius);
+    return units::kelvin(oat) / atmosphere::isaKelvin(pa);
 }
 
 /// a = b - c, solved for any one of the three.
@@ -69,10 +73,10 @@ constexpr Range AltitudeRange{-2000, 60000, false, "Invalid altitude (range -200
 constexpr Range TemperatureRange{-80, 60, false, "Invalid temperature (range -80 - 60 °C)"};
 
 double toMetres(double feet) {
-    return feet * 0.3048;
+    return units::feetToMetres(feet);
 }
 double fromMetres(double metres) {
-    return metres / 0.3048;
+    return units::metresToFeet(metres);
 }
 
 } // namespace
@@ -80,7 +84,6 @@ double fromMetres(double metres) {
 // One given from each group: the indicated altitude, the pressure altitude,
 // the station's elevation, and the OAT or the deviation, the newest of each.
 extern const PageTable TrueAltitudePage{
-    .number = 25,
     .name = "True Altitude",
     .icon = "trueAltitude",
     .rows = {{
@@ -114,7 +117,6 @@ extern const PageTable TrueAltitudePage{
         {.unit = "Correction - ft", .quantity = Correction},
     }},
     .formulas = {.relations = Relations, .defaults = Defaults},
-    .zeroIsValue = true,
 };
 
 } // namespace zel

@@ -2,26 +2,19 @@
 // SPDX-FileCopyrightText: 2026 zelFLIGHTAB developers
 #include "page/solver.h"
 
+#include "page/units.h"
+
 #include <cmath>
-#include <numbers>
 
 namespace zel {
 namespace {
 
 using namespace solver;
 
-constexpr double G0 = 9.80665; // m/s²
-constexpr double MetresPerSecondPerKnot = 1852.0 / 3600;
-constexpr double MetresPerNauticalMile = 1852;
+using units::degrees, units::radians, units::MetresPerSecondPerKnot, units::MetresPerNauticalMile;
+constexpr double G0 = units::Gravity;
 
 enum Quantity { Tas, Bank, Rate, Radius };
-
-double radians(double degrees) {
-    return degrees * std::numbers::pi / 180;
-}
-double degrees(double radians) {
-    return radians * 180 / std::numbers::pi;
-}
 
 /// In a coordinated level turn the lift's sideways part turns the aircraft:
 /// rate = g0 x tan(bank) / speed.
@@ -115,12 +108,11 @@ constexpr Relation Relations[] = {
 // The bank is one quantity with the load factor and the stall speed increase;
 // so is the rate with the time for a full circle, and the radius in either unit.
 extern const PageTable TurnPage{
-    .number = 21,
     .name = "Turn",
     .icon = "turn",
     .rows = {{
         {.unit = "TAS - kt", .quantity = Tas},
-        {.unit = "Bank Angle - °", .quantity = Bank, .range = {0, 90, true, BadBank}},
+        {.unit = "Bank Angle - °", .quantity = Bank, .range = {0, 90, true, BadBank, true}},
         {.unit = "Rate of Turn - °/s", .quantity = Rate},
         {.unit = "Radius - nm", .quantity = Radius},
         {.unit = "Radius - m", .quantity = Radius, .toRow = toMetres, .fromRow = fromMetres},
@@ -129,15 +121,14 @@ extern const PageTable TurnPage{
          .quantity = Bank,
          .toRow = toLoad,
          .fromRow = fromLoad,
-         .range = {0, 1e300, false, BadBank}},
+         .range = {1, 1e300, false, "Invalid load factor (range above 1 g)", true}},
         {.unit = "Stall Speed Increase - %",
          .quantity = Bank,
          .toRow = toStallIncrease,
          .fromRow = fromStallIncrease,
-         .range = {0, 1e300, false, BadBank}},
+         .range = {0, 1e300, false, "Invalid stall speed increase (range above 0 %)", true}},
     }},
     .formulas = {.relations = Relations, .freedom = 2, .check = level},
-    .zeroIsValue = true,
 };
 
 } // namespace zel

@@ -2,37 +2,45 @@
 // SPDX-FileCopyrightText: 2026 zelFLIGHTAB developers
 #include "page/catalogue.h"
 
+#include "entry/text.h"
+
+#include <algorithm>
+#include <charconv>
 #include <stdexcept>
 
 namespace zel {
 
-PageCatalogue::PageCatalogue(std::initializer_list<std::span<const PageTable>> groups,
-                             std::span<const PageTable* const> singles) {
-    auto add = [this](const PageTable& table) {
-        const auto at = static_cast<std::size_t>(table.number);
-        if (m_pages.size() <= at) {
-            m_pages.resize(at + 1, nullptr);
+std::string foldedName(std::string_view text) {
+    std::string out;
+    for (std::size_t at = 0; at < text.size(); ++at) {
+        const char c = text[at];
+        if (text.substr(at, 2) == "°") {
+            ++at;
+            continue;
         }
-        if (table.number < 1 || m_pages[at] != nullptr) {
-            throw std::logic_error("page number taken twice: " + std::string(table.name));
-        }
-        m_pages[at] = &table;
-    };
-    for (const auto& group : groups) {
-        for (const PageTable& table : group) {
-            add(table);
+        if (isLetter(c) || isDigit(c) || static_cast<unsigned char>(c) >= 0x80) {
+            out += lowerCase(c);
         }
     }
-    for (const PageTable* table : singles) {
-        add(*table);
-    }
-    if (m_pages.empty()) {
-        m_pages.push_back(nullptr);
-    }
+    return out;
 }
 
 const PageTable* PageCatalogue::find(int number) const {
-    return number >= 1 && number <= count() ? m_pages[static_cast<std::size_t>(number)] : nullptr;
+    return number >= 1 && number <= count() ? m_pages[static_cast<std::size_t>(number - 1)]
+                                            : nullptr;
+}
+
+const PageTable* PageCatalogue::find(std::string_view text) const {
+    int number = 0;
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
+    if (error == std::errc() && end == text.data() + text.size()) {
+        return find(number);
+    }
+    const std::string folded = foldedName(text);
+    const auto named = std::find_if(m_pages.begin(), m_pages.end(), [&](const PageTable* page) {
+        return !folded.empty() && foldedName(page->name) == folded;
+    });
+    return named == m_pages.end() ? nullptr : *named;
 }
 
 const PageTable& PageCatalogue::page(int number) const {
@@ -42,13 +50,16 @@ const PageTable& PageCatalogue::page(int number) const {
     throw std::out_of_range("no page " + std::to_string(number));
 }
 
+int PageCatalogue::numberOf(const PageTable* page) const {
+    const auto at = std::find(m_pages.begin(), m_pages.end(), page);
+    return page == nullptr || at == m_pages.end() ? 0 : static_cast<int>(at - m_pages.begin()) + 1;
+}
+
 const PageTable* PageCatalogue::byFunctionKey(int key) const {
-    for (const PageTable* table : m_pages) {
-        if (table != nullptr && table->functionKey == key && key != 0) {
-            return table;
-        }
-    }
-    return nullptr;
+    const auto found = std::find_if(m_pages.begin(), m_pages.end(), [key](const PageTable* page) {
+        return key != 0 && page->functionKey == key;
+    });
+    return found == m_pages.end() ? nullptr : *found;
 }
 
 } // namespace zel

@@ -2,26 +2,17 @@
 // SPDX-FileCopyrightText: 2026 zelFLIGHTAB developers
 #include "page/pagesheet.h"
 
+#include <algorithm>
 #include <cmath>
 
-#include "entry/fault.h"
-
-#include <algorithm>
-
 namespace zel {
-
-bool compactCaption(std::string_view caption, bool decoded) {
-    const std::size_t length = charCount(caption);
-    return decoded ? length >= 14 : length > 14;
-}
 
 void PageSheet::setValue(int row, double value) {
     if (!std::isfinite(value)) {
         fail(Fault::Overflow);
     }
     if (!failed()) {
-        (*this)[row].tag = generalText(value, m_symbols);
-        (*this)[row].held = true;
+        (*this)[row].value = roundSignificant(value, Digits);
     }
 }
 
@@ -30,15 +21,20 @@ void PageSheet::setSingle(int row, float value) {
         fail(Fault::Overflow);
     }
     if (!failed()) {
-        (*this)[row].tag = singleText(value, m_symbols);
-        (*this)[row].held = true;
+        (*this)[row].value = roundSignificant(static_cast<double>(value), SingleDigits);
+    }
+}
+
+void PageSheet::setText(int row, std::string text) {
+    if (!failed()) {
+        (*this)[row].text = std::move(text);
     }
 }
 
 void PageSheet::clear(int row) {
     if (!failed()) {
-        (*this)[row].tag = "0";
-        (*this)[row].held = false;
+        (*this)[row].value.reset();
+        (*this)[row].text.clear();
     }
 }
 
@@ -63,13 +59,10 @@ double PageSheet::divide(double a, double b) {
 void PageSheet::reset() {
     for (int row = 1; row <= Rows; ++row) {
         RowCell& cell = (*this)[row];
-        cell.caption.clear();
-        cell.tag = "0";
+        cell.value.reset();
+        cell.text.clear();
         cell.input = false;
-        cell.compact = false;
-        cell.prefix.clear();
-        cell.computed = false;
-        cell.held = false;
+        cell.derived = false;
         cell.given = 0;
     }
 }

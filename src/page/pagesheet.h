@@ -7,61 +7,64 @@
 
 #include <array>
 #include <chrono>
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
 
 namespace zel {
 
-/// One row of a page: the unit cell beside the value cell. The tag is the row's
-/// value as full-precision number text ("0" for none); the caption is what the
-/// value cell shows, rendered from the tag.
+/// One row of a page: its unit beside its value. A row holds a number (or
+/// none); a row that shows words (a decoded report, a time of day) holds them
+/// as its text. Nothing here is formatted: the view draws the number with the
+/// regional symbols and the digits of the moment.
 struct RowCell {
+    /// The unit as the page names it, "pound - lbs"; empty: the row does not
+    /// exist on the page.
     std::string unit;
-    std::string caption;
-    std::string tag = "0";
-    /// Drawn smaller so that a long caption fits its cell.
-    bool compact = false;
-    /// "R ", "L ", "T " or "H ": the side or head/tail letter before the
-    /// number of such a row; empty elsewhere.
-    std::string prefix;
-    bool input = false;    ///< the input row: drawn in the input colour
-    bool computed = false; ///< the value was derived, not typed (Mach - AS temperatures)
-    bool held = false;     ///< a value was written, 0 included; "0" alone may mean none
-    int given = 0;         ///< when the user typed into it (higher is newer); 0 never
+    std::optional<double> value;
+    std::string text;
+    bool input = false;   ///< the input row
+    bool derived = false; ///< worked out by the page, not typed (Mach - AS temperatures)
+    int given = 0;        ///< when the user typed into it (higher is newer); 0 never
     /// One of the values the page is worked out from, on a page of formulas:
     /// the user typed it and it still counts.
     bool isGiven() const { return given != 0; }
 };
 
-/// Whether a caption is drawn small: a number longer than 14 characters; a
-/// decoded report's text from 14 characters on, as its words run longer.
-bool compactCaption(std::string_view caption, bool decoded);
-
 /// The rows of the page shown, with everything a page converter may touch:
-/// tags, directly written captions, the factors, which rows the user typed.
+/// values, texts, the factors, which rows the user typed.
 class PageSheet {
   public:
     static constexpr int Rows = 8;
+    /// Significant digits a row keeps: those a double's value shows in full,
+    /// so that what a row holds is what it prints and what a later
+    /// calculation reads, whatever the regional symbols.
+    static constexpr int Digits = 15;
+    /// Those of a value worked out in single precision (the wind triangle).
+    static constexpr int SingleDigits = 7;
 
+    /// The regional symbols of the moment, for a decoder that writes numbers
+    /// into words.
     explicit PageSheet(const Symbols& symbols) : m_symbols(symbols) {}
 
     RowCell& operator[](int row) { return m_rows.at(static_cast<std::size_t>(row)); }
     const RowCell& operator[](int row) const { return m_rows.at(static_cast<std::size_t>(row)); }
 
-    /// A row exists on a page when its unit caption is not empty.
+    /// A row exists on a page when the page gives it a unit.
     bool exists(int row) const { return !(*this)[row].unit.empty(); }
-    /// The row's value read back from its tag (0 when the tag is not a number).
-    double value(int row) const { return textValue((*this)[row].tag, m_symbols); }
-    /// Whether a value was written into the row since it was last cleared; on
-    /// pages where a typed zero is a value this tells 0 from no value.
-    bool holds(int row) const { return (*this)[row].held; }
-    /// Writes a value in the general conversion; a non-finite value is an
-    /// overflow, and is not written.
+    /// The row's number, 0 when it holds none.
+    double value(int row) const { return (*this)[row].value.value_or(0); }
+    /// Whether the row holds a number, 0 included.
+    bool holds(int row) const { return (*this)[row].value.has_value(); }
+    /// Writes a number, kept to 15 significant digits; a non-finite value is
+    /// an overflow, and is not written.
     void setValue(int row, double value);
-    /// Writes a single-precision value (7 significant digits).
+    /// Writes a single-precision result, kept to 7 significant digits.
     void setSingle(int row, float value);
-    /// No value: tag "0".
+    /// The words a text row shows.
+    void setText(int row, std::string text);
+    /// No number and no text.
     void clear(int row);
 
     /// A calculation stops at its first fault: from then on nothing more is
@@ -73,7 +76,7 @@ class PageSheet {
     /// a / b; a zero divisor or a result outside the double range fails the
     /// calculation (the result is then NaN, which no row takes).
     double divide(double a, double b);
-    /// `ResetPage`: every value cell empty, tag "0", row colour, full-size type, nothing typed.
+    /// Every row empty, none the input row, nothing typed.
     void reset();
 
     /// Marks the row as typed by the user, newer than every other.

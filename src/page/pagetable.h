@@ -11,6 +11,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace zel {
 
@@ -21,42 +22,66 @@ namespace zel {
 struct Report {
     enum class Kind { None, Beep, Warning };
     Kind kind = Kind::None;
-    std::string text; ///< the warning
-    Faulted fault;    ///< a calculation that stopped
+    std::vector<std::string> paragraphs; ///< the warning
+    Faulted fault;                       ///< a calculation that stopped
 
     static Report beep() { return {Kind::Beep, {}, {}}; }
-    static Report warning(std::string_view text) { return {Kind::Warning, std::string(text), {}}; }
+    static Report warning(std::string_view text) {
+        return {Kind::Warning, {std::string(text)}, {}};
+    }
+    static Report warning(std::vector<std::string> paragraphs) {
+        return {Kind::Warning, std::move(paragraphs), {}};
+    }
 };
 
-/// How `DisplayTags` draws a row's value.
+/// How the view draws a row's value.
 enum class Form : std::uint8_t {
     Number,       ///< grouped, with the digits key's number of decimals
     HoursMinutes, ///< decimal hours as h:mm
     Direction,    ///< three digits: "090"
     Side,         ///< "R 11.31" for + (to the right), "L 11.31" for -
     HeadTail,     ///< "T 5.00" for + (tail), "H 5.00" for - (head)
+    EastWest,     ///< "E 1.28" for +, "W 15.75" for -, always two decimals
+    Latitude,     ///< signed decimal degrees, north positive
+    Longitude,    ///< signed decimal degrees, east positive
     Date,         ///< yyyymmdd as "2026-11-22"
-    Text,         ///< the converter writes the caption; `DisplayTags` leaves it alone
+    Text,         ///< words the converter writes (a decoded report, a time of day)
 };
 
 /// What else a row says about itself; flags combine with |.
 enum RowFlag : unsigned {
-    UnknownEmpty = 1, ///< -999 stands for a value nobody knows, shown empty
-    OutputOnly = 2,   ///< a typed value cannot be put into it: the click beeps
+    OutputOnly = 1, ///< a typed value cannot be put into it: the click beeps
 };
 
 /// Which typed values a row of a page of formulas takes; any other beeps.
 enum class Sign : std::uint8_t { Positive, NotNegative, Any };
 
-/// The values a row of a page of formulas takes: a typed value outside
-/// [low, high] (high itself excluded when `openHigh`) gets `message` and
-/// changes nothing.
+/// The values a row takes (on a page of formulas, or any row that names its
+/// message): a typed value outside
+/// [low, high] (high itself excluded when `openHigh`, low when `openLow`)
+/// gets `message`, which states that range, and changes nothing.
 struct Range {
     double low = -1e300;
     double high = 1e300;
     bool openHigh = false;
     std::string_view message{};
+    bool openLow = false;
+
+    bool refuses(double x) const {
+        return x < low || x > high || (openHigh && x == high) || (openLow && x == low);
+    }
 };
+
+/// The unit's name of a unit caption: "pound" of "pound - lbs"; the whole
+/// caption where it names no symbol ("barrel oil").
+constexpr std::string_view unitName(std::string_view caption) {
+    return caption.substr(0, caption.rfind(" - "));
+}
+/// Its symbol: "lbs" of "pound - lbs"; empty where it names none.
+constexpr std::string_view unitSymbol(std::string_view caption) {
+    const auto dash = caption.rfind(" - ");
+    return dash == std::string_view::npos ? std::string_view{} : caption.substr(dash + 3);
+}
 
 /// One row of a page table: the unit caption, the factor and how it is drawn.
 /// A factor f > 0 is how many row units make one base unit of the page; f < 0
@@ -115,6 +140,13 @@ struct Formulas {
     std::span<const Default> defaults{};
     /// A warning when the solved quantities cannot be: nothing is changed.
     std::optional<std::string_view> (*check)(const Quantities& q) = nullptr;
+    /// Quantities tied by more than one formula of three (a triangle of
+    /// vectors): fills in every unknown one that the known ones give; false
+    /// when it filled in none.
+    bool (*derive)(Quantities& q) = nullptr;
+    /// What the user must be told of the quantities solved, whose rows are
+    /// written all the same: the typed value stays, what cannot be is empty.
+    std::optional<std::string_view> (*advise)(const Quantities& q) = nullptr;
 };
 
 /// A row that is not converted by factor, drawn in `form`.
@@ -124,11 +156,6 @@ constexpr RowSpec row(std::string_view unit, Form form, unsigned flags = 0) {
 
 /// How many row units make one base unit: f for f > 0, 1/|f| for f < 0, 1 for 0.
 double multiplier(double factor);
-
-/// The program's own π: the single-precision value 3.1415927 (as a double
-/// exactly 3.1415927410125732). Angles and the wind triangle use it as it is, so
-/// 180° shows 3.14159274101257 radians, the figure pilots' tables were made with.
-inline constexpr float Pi = 3.14159274101257324f;
 
 /// A number page's converter: takes the typed value into the input row (which
 /// it may move) and writes the tags of the rows it computes. An arithmetic
@@ -149,9 +176,9 @@ struct TextEntry {
     std::optional<std::string> (*paste)(std::string_view text, Report& refused) = nullptr;
 };
 
-/// One page: its place in the menu, its rows and the procedure a row click runs.
+/// One page: its name, its rows and the procedure a row click runs. Its
+/// number is its place in the catalogue.
 struct PageTable {
-    int number = 0; ///< 1.. : its place in the menu, three to a line
     std::string_view name{};
     /// The page's icon: ui/icons/<icon>.svg, drawn on its menu button and title.
     std::string_view icon{};
@@ -165,18 +192,18 @@ struct PageTable {
     /// row click or Enter; the calculator's keys are hidden.
     TextDecoder decode = nullptr;
     TextEntry text{};
-    /// A typed 0 is a value and a row without one is empty; otherwise a 0 entry
-    /// only selects a row and a value of 0 shows as an empty cell.
-    bool zeroIsValue = false;
     /// The factors and row 8 come from the currency rates, and the memory keys
     /// are "Rates", "Set" and "i".
     bool rateStore = false;
-    int functionKey = 0;           ///< the F-key that opens it from the menu face, 0 for none
-    std::string_view keyCaption{}; ///< the F-key drawn on its button
+    /// A loading sheet of an aircraft's stations, drawn from the view's
+    /// loading part instead of eight rows; its cells take the typed number.
+    bool loading = false;
+    /// The F-key that opens it from either face, drawn on its menu button; 0 for none.
+    int functionKey = 0;
 
     const RowSpec& row(int row) const { return rows.at(static_cast<std::size_t>(row - 1)); }
     bool isText() const { return decode != nullptr; }
-    bool hasFormulas() const { return !formulas.relations.empty(); }
+    bool hasFormulas() const { return !formulas.relations.empty() || formulas.derive != nullptr; }
     /// A row that only shows results: a typed value put into it beeps.
     bool outputOnly(int index) const;
 };

@@ -25,7 +25,7 @@ double productPerSixty(int target, const std::array<double, 3>& v) {
 
 void propagate(const Formulas& formulas, Quantities& q) {
     for (bool changed = true; changed;) {
-        changed = false;
+        changed = formulas.derive != nullptr && formulas.derive(q);
         for (const Relation& relation : formulas.relations) {
             std::array<double, 3> values{};
             int missing = -1;
@@ -60,8 +60,7 @@ Report solve(const PageTable& table, PageSheet& page, double x, int inputRow) {
         return Report::beep();
     }
     const Range& range = typed.range;
-    if (x < range.low || x > range.high || (range.openHigh && x == range.high) ||
-        !std::isfinite(apply(typed.fromRow, x))) {
+    if (range.refuses(x) || !std::isfinite(apply(typed.fromRow, x))) {
         return Report::warning(range.message);
     }
 
@@ -140,6 +139,11 @@ Report solve(const PageTable& table, PageSheet& page, double x, int inputRow) {
         }
     }
     page.markGiven(inputRow);
+    if (model.advise != nullptr) {
+        if (const auto advice = model.advise(q)) {
+            return Report::warning(*advice);
+        }
+    }
     return {};
 }
 

@@ -12,6 +12,11 @@ Symbols QtRegional::localeSymbols(const std::optional<std::string>& name) {
     return {locale.decimalPoint().toStdString(), locale.groupSeparator().toStdString()};
 }
 
+std::string QtRegional::howToChange() {
+    return "You can modify your settings in the region settings of your desktop "
+           "(Region & Language - Formats).";
+}
+
 bool QtRegional::isKnownLocale(const std::string& name) {
     const QLocale locale(QString::fromStdString(name));
     return locale.language() != QLocale::C || name == "C" || name == "POSIX";

@@ -16,6 +16,7 @@ class QtRegional : public LocaleRegional {
 
     /// True when QLocale knows the name ("en_US", "de_DE", "fr_CH", "C").
     static bool isKnownLocale(const std::string& name);
+    std::string howToChange() override;
 
   protected:
     Symbols localeSymbols(const std::optional<std::string>& name) override;

@@ -18,10 +18,6 @@ QString qt(const std::string& text) {
     return QString::fromStdString(text);
 }
 
-const QString SettingsInTech = QStringLiteral("/%1/%2").arg(
-    QLatin1String(TechFolder.data(), static_cast<qsizetype>(TechFolder.size())),
-    QLatin1String(SettingsName.data(), static_cast<qsizetype>(SettingsName.size())));
-
 } // namespace
 
 FileRead QtStorage::read(const std::string& path) {
@@ -39,7 +35,15 @@ FileRead QtStorage::read(const std::string& path) {
     return {FileRead::Status::Ok, bytes.toStdString()};
 }
 
-bool QtStorage::write(const std::string& path, std::string_view bytes) {
+void QtStorage::write(const std::string& path, std::string_view bytes, Then<bool> done) {
+    done(writeFile(path, bytes));
+}
+
+void QtStorage::update(const std::string& path, const Change& change, Then<bool> done) {
+    done(updateFile(path, change));
+}
+
+bool QtStorage::writeFile(const std::string& path, std::string_view bytes) {
     QDir().mkpath(QFileInfo(qt(path)).absolutePath());
     // QSaveFile writes a temporary file beside the target and renames it over
     // the target only when everything was written; it also refuses to replace
@@ -57,11 +61,19 @@ bool QtStorage::write(const std::string& path, std::string_view bytes) {
     return file.commit();
 }
 
+std::vector<std::string> QtStorage::list(const std::string& folder) {
+    std::vector<std::string> names;
+    for (const QString& name : QDir(qt(folder)).entryList(QDir::Files, QDir::Name)) {
+        names.push_back(name.toStdString());
+    }
+    return names;
+}
+
 void QtStorage::remove(const std::string& path) {
     QFile::remove(qt(path));
 }
 
-bool QtStorage::update(const std::string& path, const Change& change) {
+bool QtStorage::updateFile(const std::string& path, const Change& change) {
     QDir().mkpath(QFileInfo(qt(path)).absolutePath());
     QLockFile lock(qt(path) + QStringLiteral(".lock"));
     // A write takes milliseconds: a lock older than 10 seconds, or one whose
@@ -75,7 +87,8 @@ bool QtStorage::update(const std::string& path, const Change& change) {
     if (!changed) {
         return false;
     }
-    return (file.status == FileRead::Status::Ok && *changed == file.bytes) || write(path, *changed);
+    return (file.status == FileRead::Status::Ok && *changed == file.bytes) ||
+           writeFile(path, *changed);
 }
 
 std::string QtStorage::locateProgramFolder(const std::optional<std::string>& folder) {
@@ -83,12 +96,12 @@ std::string QtStorage::locateProgramFolder(const std::optional<std::string>& fol
     if (folder) {
         chosen = QDir(qt(*folder)).absolutePath();
     } else if (const QString beside = QCoreApplication::applicationDirPath();
-               QFileInfo::exists(beside + SettingsInTech)) {
+               QFileInfo::exists(qt(settingsPath(beside.toStdString())))) {
         chosen = beside;
     } else {
         chosen = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
     }
-    const QString settings = chosen + SettingsInTech;
+    const QString settings = qt(settingsPath(chosen.toStdString()));
     if (!QFileInfo::exists(settings)) {
         // An installed program starts from its shipped file (which a packager
         // may have changed); a program run where it was built, from its own copy.
@@ -98,8 +111,7 @@ std::string QtStorage::locateProgramFolder(const std::optional<std::string>& fol
                           ? installed
                           : QStringLiteral(":/zelflightab/zelFLIGHTAB.ini"));
         if (shipped.open(QIODevice::ReadOnly)) {
-            QtStorage(chosen.toStdString())
-                .write(settings.toStdString(), shipped.readAll().toStdString());
+            writeFile(settings.toStdString(), shipped.readAll().toStdString());
         }
     }
     return chosen.toStdString();

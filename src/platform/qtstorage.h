@@ -16,10 +16,12 @@ class QtStorage : public Storage {
 
     std::string programFolder() override { return m_folder; }
     FileRead read(const std::string& path) override;
-    bool write(const std::string& path, std::string_view bytes) override;
+    /// Done before it returns: the outcome comes at once.
+    void write(const std::string& path, std::string_view bytes, Then<bool> done) override;
     void remove(const std::string& path) override;
+    std::vector<std::string> list(const std::string& folder) override;
     /// The lock is a QLockFile beside the file ("zelFLIGHTAB.ini.lock").
-    bool update(const std::string& path, const Change& change) override;
+    void update(const std::string& path, const Change& change, Then<bool> done) override;
 
     /// Where the settings live: `folder` when given; else the executable's
     /// folder when it holds Tech/zelFLIGHTAB.ini (a portable install); else the
@@ -28,6 +30,9 @@ class QtStorage : public Storage {
     static std::string locateProgramFolder(const std::optional<std::string>& folder);
 
   private:
+    static bool writeFile(const std::string& path, std::string_view bytes);
+    bool updateFile(const std::string& path, const Change& change);
+
     std::string m_folder;
 };
 

@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <array>
+#include <chrono>
 #include <functional>
 #include <iterator>
 #include <optional>
@@ -52,8 +53,7 @@ constexpr std::array<Contaminant, 17> Contaminants{{
 /// A row's caption on the Snowtam page (an eight-figure group) or on this
 /// page (a GRF report), as their tables give them.
 std::string_view unitOf(bool group, int row) {
-    const std::span<const PageTable> pages = snowtamPages();
-    return pages[group ? 0 : 1].row(row).unit;
+    return (group ? SnowtamPage : RwyConditionPage).row(row).unit;
 }
 
 bool allDigits(std::string_view text) {
@@ -108,13 +108,19 @@ bool isConditionCodes(std::string_view group) {
            });
 }
 
-/// The date and time of an assessment, MMDDhhmm in UTC, as "02-17 00:55".
+/// The date and time of an assessment, MMDDhhmm in UTC, as "02-17 00:55";
+/// nothing for a day no month has (30 February; 29 February is taken, the
+/// report names no year) or a time no clock shows (24:00, minute 60).
 std::optional<std::string> assessed(std::string_view group) {
     if (group.size() != 8 || !allDigits(group)) {
         return std::nullopt;
     }
-    const auto two = [&](std::size_t at) { return (group[at] - '0') * 10 + (group[at + 1] - '0'); };
-    if (two(0) < 1 || two(0) > 12 || two(2) < 1 || two(2) > 31 || two(4) > 23 || two(6) > 59) {
+    const auto two = [&](std::size_t at) {
+        return static_cast<unsigned>((group[at] - '0') * 10 + (group[at + 1] - '0'));
+    };
+    const std::chrono::year_month_day day{std::chrono::year{2024}, std::chrono::month{two(0)},
+                                          std::chrono::day{two(2)}};
+    if (!day.ok() || two(4) > 23 || two(6) > 59) {
         return std::nullopt;
     }
     return std::string(group.substr(0, 2)) + "-" + std::string(group.substr(2, 2)) + " " +
@@ -319,7 +325,7 @@ bool stateGroup(PageSheet& page, std::string_view group,
     }
     if (state.starts_with("CLRD") && isStateCharacters(state.substr(4))) {
         show(rows);
-        page[2].caption = "Contamination cleared";
+        page.setText(2, "Contamination cleared");
         writeBraking(page, state.substr(4));
     } else if (isStateCharacters(state)) {
         show(rows);
@@ -327,7 +333,6 @@ bool stateGroup(PageSheet& page, std::string_view group,
     } else {
         return false;
     }
-    sizeCaptions(page);
     return true;
 }
 
@@ -362,30 +367,32 @@ std::optional<std::string> pasteStateGroup(std::string_view text, Report& refuse
     return std::string(eights.front());
 }
 
-Report Convert_RunwayCondition(PageSheet& page, std::string_view text, int which) {
+Report decodeRunwayCondition(PageSheet& page, std::string_view text, int which) {
     page.reset();
     const std::vector<std::string_view> groups = groupsOf(text);
     auto show = [&page](const Rows& rows) {
         for (int row = 1; row <= PageSheet::Rows; ++row) {
             page[row].unit = rows[static_cast<std::size_t>(row)].first;
-            page[row].caption = rows[static_cast<std::size_t>(row)].second;
+            page.setText(row, rows[static_cast<std::size_t>(row)].second);
         }
-        sizeCaptions(page);
     };
     auto refuse = [&page](const std::string& why) {
         for (int row = 1; row <= PageSheet::Rows; ++row) {
             page[row].unit = std::string(unitOf(false, row));
-            page[row].caption.clear();
+            page.clear(row);
         }
-        return Report::warning(std::string(NotAReport) + (why.empty() ? "" : "\r\r" + why));
+        std::vector<std::string> paragraphs{std::string(NotAReport)};
+        if (!why.empty()) {
+            paragraphs.push_back(why);
+        }
+        return Report::warning(std::move(paragraphs));
     };
     // Which of several runways to show: the one asked for, counting round.
     auto numbered = [&page, which](std::size_t count) {
         const std::size_t shown = static_cast<std::size_t>(which) % count;
         if (count > 1) {
-            page[1].caption +=
-                " (" + std::to_string(shown + 1) + " of " + std::to_string(count) + ")";
-            sizeCaptions(page);
+            page.setText(1, page[1].text + " (" + std::to_string(shown + 1) + " of " +
+                                std::to_string(count) + ")");
         }
         return shown;
     };
@@ -408,8 +415,7 @@ Report Convert_RunwayCondition(PageSheet& page, std::string_view text, int which
         if (dated) {
             const auto when = assessed(groups[at]);
             if (!when) {
-                return refuse("The assessment time must be MMDDhhmm (" + std::string(groups[at]) +
-                              ")");
+                return refuse("No such date and time " + std::string(groups[at]));
             }
             time = *when;
             ++at;
@@ -447,7 +453,7 @@ Report Convert_RunwayCondition(PageSheet& page, std::string_view text, int which
     // it stands alone.
     if (groups.size() == 1 && groups[0].size() == 8 && isStateCharacters(groups[0])) {
         show(stateRows());
-        return Convert_Snowtam(page, groups[0]);
+        return decodeStateGroup(page, groups[0]);
     }
     return refuse("");
 }

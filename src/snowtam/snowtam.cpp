@@ -100,47 +100,40 @@ Braking braking(double bb, const Symbols& symbols) {
 
 void writeStateGroup(PageSheet& page, std::string_view state) {
     if (const auto* deposit = lookUp(Deposits, state.substr(0, 1))) {
-        page[2].caption = std::string(*deposit);
+        page.setText(2, std::string(*deposit));
     }
     const auto* extent = lookUp(Extents, state.substr(1, 1));
-    page[4].caption = extent ? std::string(*extent) : "(invalid entry)";
+    page.setText(4, extent ? std::string(*extent) : "(invalid entry)");
     const std::string_view depth = state.substr(2, 2);
     const auto* depthText = lookUp(Depths, depth);
-    page[6].caption = depthText ? std::string(*depthText) : std::string(depth) + " mm";
+    page.setText(6, depthText ? std::string(*depthText) : std::string(depth) + " mm");
     writeBraking(page, state.substr(4, 2));
 }
 
 void writeBraking(PageSheet& page, std::string_view code) {
-    Braking b = braking(CGetal(code, page.symbols()), page.symbols());
-    page[7].caption = std::move(b.coefficient);
-    page[8].caption = std::move(b.action);
+    Braking b = braking(readNumber(code, page.symbols()), page.symbols());
+    page.setText(7, std::move(b.coefficient));
+    page.setText(8, std::move(b.action));
 }
 
-void sizeCaptions(PageSheet& page) {
-    for (int row = 1; row <= PageSheet::Rows; ++row) {
-        page[row].compact = compactCaption(page[row].caption, true);
-    }
-}
-
-Report Convert_Snowtam(PageSheet& page, std::string_view group) {
+Report decodeStateGroup(PageSheet& page, std::string_view group) {
     page.reset();
     if (charCount(group) != 8) {
         return Report::warning("Snowtam must be 8 digits...");
     }
     const Symbols& symbols = page.symbols();
-    const double runway = CGetal(group.substr(0, 2), symbols);
+    const double runway = readNumber(group.substr(0, 2), symbols);
     if (runway == 88) {
-        page[1].caption = "All RWY";
+        page.setText(1, "All RWY");
     } else if (runway == 99) {
-        page[1].caption = "Previous Report";
+        page.setText(1, "Previous Report");
     } else if (runway < 50) {
-        page[1].caption = formatNumber(runway, "00", symbols);
+        page.setText(1, formatNumber(runway, "00", symbols));
     } else {
         // Runway numbers above 50 are the right-hand runway of a parallel pair.
-        page[1].caption = formatNumber(runway - 50, "00", symbols) + "R";
+        page.setText(1, formatNumber(runway - 50, "00", symbols) + "R");
     }
     writeStateGroup(page, group.substr(2));
-    sizeCaptions(page);
     return {};
 }
 
@@ -162,38 +155,31 @@ char32_t reportCharacter(char32_t c) {
     return allowed ? static_cast<char32_t>(capital) : 0;
 }
 
-constexpr std::array<PageTable, 2> Pages{{
-    {.number = 14,
-     .name = "Snowtam",
-     .icon = "snowtam",
-     .rows = {{row("Runway", Form::Text),
-               row("Type of Deposit", Form::Text),
-               {},
-               row("Extent of Deposit", Form::Text),
-               {},
-               row("Depth of Deposit", Form::Text),
-               row("Brake Coefficient", Form::Text),
-               row("Braking Action", Form::Text)}},
-     .decode = [](PageSheet& page, std::string_view group,
-                  int) { return Convert_Snowtam(page, group); },
-     .text = {8, groupCharacter, pasteStateGroup},
-     .functionKey = 11,
-     .keyCaption = "F11"},
-    {.number = 24,
-     .name = "RWY Condition",
-     .icon = "rwyCondition",
-     .rows = {{row("Runway", Form::Text), row("Assessed - UTC", Form::Text),
-               row("Touchdown", Form::Text), row("Midpoint", Form::Text),
-               row("Rollout", Form::Text), row("Coverage - %", Form::Text),
-               row("Depth - mm", Form::Text), row("Contaminant", Form::Text)}},
-     .decode = Convert_RunwayCondition,
-     .text = {2000, reportCharacter}},
-}};
-
 } // namespace
 
-std::span<const PageTable> snowtamPages() {
-    return Pages;
-}
+extern const PageTable SnowtamPage{.name = "Snowtam",
+                                   .icon = "snowtam",
+                                   .rows = {{row("Runway", Form::Text),
+                                             row("Type of Deposit", Form::Text),
+                                             {},
+                                             row("Extent of Deposit", Form::Text),
+                                             {},
+                                             row("Depth of Deposit", Form::Text),
+                                             row("Brake Coefficient", Form::Text),
+                                             row("Braking Action", Form::Text)}},
+                                   .decode = [](PageSheet& page, std::string_view group,
+                                                int) { return decodeStateGroup(page, group); },
+                                   .text = {8, groupCharacter, pasteStateGroup},
+                                   .functionKey = 11};
+
+extern const PageTable RwyConditionPage{
+    .name = "RWY Condition",
+    .icon = "rwyCondition",
+    .rows = {{row("Runway", Form::Text), row("Assessed - UTC", Form::Text),
+              row("Touchdown", Form::Text), row("Midpoint", Form::Text), row("Rollout", Form::Text),
+              row("Coverage - %", Form::Text), row("Depth - mm", Form::Text),
+              row("Contaminant", Form::Text)}},
+    .decode = decodeRunwayCondition,
+    .text = {2000, reportCharacter}};
 
 } // namespace zel

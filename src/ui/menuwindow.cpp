@@ -3,6 +3,7 @@
 #include "ui/menuwindow.h"
 
 #include "app/catalogue.h"
+#include "ui/loadingpanel.h"
 #include "ui/qtinteraction.h"
 
 #include <QApplication>
@@ -12,6 +13,7 @@
 #include <QPainter>
 #include <QTimer>
 
+#include <algorithm>
 #include <cmath>
 #include <utility>
 
@@ -26,6 +28,11 @@ namespace {
 
 constexpr int WindowWidth = MenuWindow::DesignWidth;
 constexpr int RowHeight = 45;
+// The menu: a heading for each group, then its page buttons three to a line.
+constexpr int MenuTop = 42;
+constexpr int HeadingHeight = 18;
+constexpr int ButtonHeight = 40;
+constexpr int ButtonLine = 44;
 
 QString text(const std::string& s) {
     return QString::fromStdString(s);
@@ -78,7 +85,8 @@ MenuWindow::MenuWindow(Menu& menu, QtInteraction* interaction, const QString& me
                        bool remember, QWidget* parent)
     : QWidget(parent), m_menu(menu), m_interaction(interaction),
       m_designHeight(designHeight(menu.pages())),
-      m_pageButtons(static_cast<std::size_t>(menu.pages().count() + 1)), m_memoryFile(memoryFile),
+      m_pageButtons(static_cast<std::size_t>(menu.pages().count() + 1)),
+      m_icons(static_cast<std::size_t>(menu.pages().count() + 1)), m_memoryFile(memoryFile),
       m_remember(remember) {
     loadIcons();
     installFrameAccessibility();
@@ -107,14 +115,13 @@ MenuWindow::MenuWindow(Menu& menu, QtInteraction* interaction, const QString& me
     m_menuButton->setCursor(Qt::PointingHandCursor);
     m_menuButton->setAccessibleRole(QAccessible::Button);
     m_menuButton->setToolTip(QStringLiteral("Back to the menu (Alt+M)"));
-    connect(m_menuButton, &ZelFrame::clicked, this,
-            [this] { act([this] { m_menu.LabelMenu_Click(); }); });
+    connect(m_menuButton, &ZelFrame::clicked, this, [this] { act([this] { m_menu.goBack(); }); });
     for (ZelFrame* key :
          {m_menuButton, m_digitsKey, m_clearKey, m_divideKey, m_operatorKeys[1], m_operatorKeys[2],
           m_operatorKeys[3], m_memoryKeys[0], m_memoryKeys[1], m_memoryKeys[2]}) {
         key->setFocusPolicy(Qt::TabFocus);
     }
-    m_menu.Form_Load();
+    m_menu.start();
     recallSettings();
     restyle();
     render();
@@ -124,38 +131,62 @@ MenuWindow::MenuWindow(Menu& menu, QtInteraction* interaction, const QString& me
 MenuWindow::~MenuWindow() = default;
 
 int MenuWindow::designHeight(const PageCatalogue& pages) {
-    // The title bar and a margin, then a line of three buttons every 61 pixels.
-    return 47 + (pages.count() + 2) / 3 * 61;
+    int height = MenuTop;
+    for (const PageCatalogue::Group& group : pages.groups()) {
+        const int lines = (static_cast<int>(group.pages.size()) + 2) / 3;
+        height += HeadingHeight + lines * ButtonLine;
+    }
+    return height + 6;
 }
 
 std::string_view MenuWindow::iconName(int page) const {
-    const PageTable* table = m_menu.pages().find(page);
-    return table != nullptr ? table->icon : AppIcon;
+    return page >= 1 && page < static_cast<int>(m_icons.size())
+               ? std::string_view(m_icons[static_cast<std::size_t>(page)])
+               : AppIcon;
 }
 
 void MenuWindow::buildMenuFace() {
-    // Three columns, as many lines as the pages need, in page order.
-    const PageCatalogue& pages = m_menu.pages();
-    for (int page = 1; page <= pages.count(); ++page) {
-        const PageTable* table = pages.find(page);
-        if (table == nullptr) {
-            continue;
+    // Each group under its heading, three buttons to a line, in the order a
+    // pilot works; each button keeps its page's number and key.
+    const View view = m_menu.view();
+    int y = MenuTop;
+    for (const PageGroup& group : view.groups) {
+        auto* heading = frame(Look::Cell, this, QRect(10, y, WindowWidth - 20, HeadingHeight),
+                              text(group.heading));
+        heading->setAlignment(Qt::AlignLeft);
+        heading->setPointSize(8);
+        heading->setBold(true);
+        heading->setAccessibleRole(QAccessible::Heading);
+        heading->setTextColor(textColours(m_night).row);
+        m_menuHeadings.push_back(heading);
+        y += HeadingHeight;
+        for (std::size_t i = 0; i < group.pages.size(); ++i) {
+            const PageButton& entry = view.pages[static_cast<std::size_t>(group.pages[i] - 1)];
+            const int column = static_cast<int>(i % 3);
+            const int line = static_cast<int>(i / 3);
+            buildPageButton(entry, QRect(8 + column * 94, y + line * ButtonLine, 90, ButtonHeight));
         }
-        const int column = (page - 1) % 3;
-        const int line = (page - 1) / 3;
-        auto* button = frame(Look::PageButton, this, QRect(8 + column * 94, 44 + line * 61, 90, 57),
-                             text(table->name));
+        y += static_cast<int>((group.pages.size() + 2) / 3) * ButtonLine;
+    }
+}
+
+void MenuWindow::buildPageButton(const PageButton& entry, QRect geometry) {
+    {
+        const int page = entry.number;
+        auto* button = frame(Look::PageButton, this, geometry, text(entry.name));
         button->setPointSize(8);
-        button->setCornerCaption(text(table->keyCaption));
+        button->setIconBeside(true);
+        button->setCornerCaption(text(entry.key));
         button->setCursor(Qt::PointingHandCursor);
         button->setFocusPolicy(Qt::TabFocus);
         button->setAccessibleRole(QAccessible::Button);
-        if (!table->keyCaption.empty()) {
-            button->setAccessibleDescription(text(table->keyCaption));
+        if (!entry.key.empty()) {
+            button->setAccessibleDescription(text(entry.key));
         }
         connect(button, &ZelFrame::clicked, this,
-                [this, page] { act([this, page] { m_menu.LabMenu_Click(page); }); });
+                [this, page] { act([this, page] { m_menu.openPage(page); }); });
         m_pageButtons[static_cast<std::size_t>(page)] = button;
+        m_icons[static_cast<std::size_t>(page)] = entry.icon;
     }
 }
 
@@ -168,6 +199,11 @@ void MenuWindow::buildPageFace() {
     m_rowsPanel = frame(Look::Sheet, m_pageFace, QRect(11, 110, 273, 8 * RowHeight + 18));
     m_rowsPanel->setAccessibleName(QStringLiteral("Rows"));
     buildRows(m_rowsPanel);
+    // The Weight & Balance page's sheet takes the rows' place and the room
+    // below; it is made when that page is first shown.
+    m_loadingSheet = frame(Look::Sheet, m_pageFace, QRect(11, 110, 273, m_designHeight - 36 - 118));
+    m_loadingSheet->setAccessibleName(QStringLiteral("Loading sheet"));
+    m_loadingSheet->hide();
 }
 
 void MenuWindow::buildCalculator(QWidget* panel) {
@@ -183,8 +219,9 @@ void MenuWindow::buildCalculator(QWidget* panel) {
         auto* button = frame(Look::Key, m_memoryPanel, QRect(key * 52, 0, 48, 27));
         button->setPointSize(8.5);
         button->setAccessibleRole(QAccessible::Button);
-        connect(button, &ZelFrame::clicked, this,
-                [this, key] { act([this, key] { m_menu.LabMEM_Click(key); }); });
+        connect(button, &ZelFrame::clicked, this, [this, key] {
+            act([this, key] { m_menu.pressMemory(static_cast<MemoryKey>(key)); });
+        });
         m_memoryKeys[static_cast<std::size_t>(key)] = button;
     }
     m_digitsKey = frame(Look::Key, panel, QRect(168, 8, 56, 27));
@@ -193,13 +230,13 @@ void MenuWindow::buildCalculator(QWidget* panel) {
     m_digitsKey->setAccessibleRole(QAccessible::Button);
     m_digitsKey->setAccessibleName(QStringLiteral("Number of digits"));
     connect(m_digitsKey, &ZelFrame::clicked, this,
-            [this] { act([this] { m_menu.LabDEC_Click(); }); });
+            [this] { act([this] { m_menu.pressDigits(); }); });
     m_clearKey = frame(Look::Key, panel, QRect(168, 54, 56, 27), QStringLiteral("C"));
     m_clearKey->setToolTip(QStringLiteral(" Clear "));
     m_clearKey->setPointSize(10);
     m_clearKey->setAccessibleRole(QAccessible::Button);
     m_clearKey->setAccessibleName(QStringLiteral("Clear"));
-    connect(m_clearKey, &ZelFrame::clicked, this, [this] { act([this] { m_menu.LabC_Click(); }); });
+    connect(m_clearKey, &ZelFrame::clicked, this, [this] { act([this] { m_menu.clear(); }); });
 
     m_operatorPanel = frame(Look::Cell, panel, QRect(232, 6, 32, 77));
     m_operatorPanel->setAccessibleName(QStringLiteral("Operator keys"));
@@ -214,8 +251,9 @@ void MenuWindow::buildCalculator(QWidget* panel) {
         button->setToolTip(tip);
         button->setAccessibleRole(QAccessible::Button);
         button->setAccessibleName(names[static_cast<std::size_t>(key)]);
-        connect(button, &ZelFrame::clicked, this,
-                [this, key] { act([this, key] { m_menu.LabOP_Click(key); }); });
+        connect(button, &ZelFrame::clicked, this, [this, key] {
+            act([this, key] { m_menu.pressOperator(static_cast<Operator>(key)); });
+        });
         m_operatorKeys[static_cast<std::size_t>(key)] = button;
     }
     // The divide key has two faces: the upper divides, the lower only lights up.
@@ -225,8 +263,9 @@ void MenuWindow::buildCalculator(QWidget* panel) {
     m_divideKey->setAccessibleRole(QAccessible::Button);
     m_divideKey->setAccessibleName(QStringLiteral("Divide"));
     connect(m_divideKey, &ZelFrame::clicked, this, [this](QPoint at) {
-        const int key = at.y() < m_divideKey->height() / 2 ? 4 : 5;
-        act([this, key] { m_menu.LabOP_Click(key); });
+        const Operator key =
+            at.y() < m_divideKey->height() / 2 ? Operator::Divide : Operator::DivideLower;
+        act([this, key] { m_menu.pressOperator(key); });
     });
 }
 
@@ -250,7 +289,7 @@ void MenuWindow::buildRows(QWidget* panel) {
         for (ZelFrame* cell : {value, unit}) {
             cell->setCursor(Qt::PointingHandCursor);
             connect(cell, &ZelFrame::clicked, this,
-                    [this, row] { act([this, row] { m_menu.LabValue_Click(row); }); });
+                    [this, row] { act([this, row] { m_menu.clickRow(row); }); });
         }
         m_bands[static_cast<std::size_t>(row)] = band;
         m_values[static_cast<std::size_t>(row)] = value;
@@ -283,8 +322,9 @@ void MenuWindow::act(const std::function<void()>& handler) {
 }
 
 void MenuWindow::render() {
+    const View view = m_menu.view();
     const TextColours& colours = textColours(m_night);
-    const bool page = m_menu.face() == Face::Page;
+    const bool page = view.face == Face::Page;
     m_pageFace->setVisible(page);
     for (ZelFrame* button : m_pageButtons) {
         if (button != nullptr) {
@@ -292,6 +332,25 @@ void MenuWindow::render() {
         }
     }
     m_menuButton->setVisible(page);
+    for (ZelFrame* heading : m_menuHeadings) {
+        heading->setVisible(!page);
+        heading->setTextColor(colours.row);
+    }
+    const bool loading = page && view.loading.has_value();
+    m_rowsPanel->setVisible(!loading);
+    m_loadingSheet->setVisible(loading);
+    if (loading) {
+        if (m_loadingPanel == nullptr) {
+            m_loadingPanel = new LoadingPanel(
+                m_menu, [this](const std::function<void()>& handler) { act(handler); },
+                m_loadingSheet);
+            const QRect inside(2, 4, 269, m_designHeight - 36 - 126);
+            m_placed.push_back({m_loadingPanel, inside, std::nullopt});
+            m_loadingPanel->setGeometry(QRect(inside.topLeft() * m_zoom, inside.size() * m_zoom));
+            m_loadingPanel->show();
+        }
+        m_loadingPanel->render(*view.loading, m_night, m_zoom);
+    }
     const int iconPage = page ? m_menu.currentPage() : 0;
     if (m_iconRatio != devicePixelRatioF()) {
         refreshIcons(); // drawn anew for the screen's pixel ratio
@@ -300,44 +359,42 @@ void MenuWindow::render() {
                                       textColours(m_night).row, m_iconRatio));
         m_shownIconPage = iconPage;
     }
-    m_title->setCaption(page ? text(m_menu.title()) : QStringLiteral("zelFLIGHTAB"));
+    m_title->setCaption(text(view.title));
 
-    m_display->setCaption(text(m_menu.display()));
-    m_display->setAccessibleValue(text(m_menu.display()));
-    m_display->setPointSize(m_menu.displayCompact() ? 10 : 18);
-    m_digitsKey->setCaption(text(m_menu.digitsCaption()));
-    m_memoryPanel->setVisible(m_menu.panelsVisible());
-    m_digitsKey->setVisible(m_menu.panelsVisible());
-    m_operatorPanel->setVisible(m_menu.panelsVisible());
+    m_display->setCaption(text(view.display));
+    m_display->setAccessibleValue(text(view.display));
+    m_display->setPointSize(view.displayEmphasis);
+    m_digitsKey->setCaption(text(view.digits));
+    m_memoryPanel->setVisible(view.panels);
+    m_digitsKey->setVisible(view.panels);
+    m_operatorPanel->setVisible(view.panels);
     for (int key = 0; key < 3; ++key) {
         ZelFrame* button = m_memoryKeys[static_cast<std::size_t>(key)];
-        button->setCaption(text(m_menu.memoryCaption(key)));
-        button->setTextColor(m_menu.memoryLit(key) ? colours.amber : colours.keyText);
+        const KeyView& shown = view.memory[static_cast<std::size_t>(key)];
+        button->setCaption(text(shown.caption));
+        button->setTextColor(shown.lit ? colours.amber : colours.keyText);
     }
-    static const std::array<QString, 4> symbols{QString(), QStringLiteral("+"), QStringLiteral("-"),
-                                                QStringLiteral("x")};
     for (int key = 1; key <= 3; ++key) {
         ZelFrame* button = m_operatorKeys[static_cast<std::size_t>(key)];
-        button->setCaption(symbols[static_cast<std::size_t>(key)]);
-        button->setTextColor(m_menu.operatorLit(key) ? colours.amber : colours.keyText);
+        const KeyView& shown = view.operators[static_cast<std::size_t>(key)];
+        button->setCaption(text(shown.caption));
+        button->setTextColor(shown.lit ? colours.amber : colours.keyText);
     }
-    m_divideKey->setTextColor(m_menu.operatorLit(4) || m_menu.operatorLit(5) ? colours.amber
-                                                                             : colours.keyText);
-    const bool report = page && m_menu.page()->isText();
-    m_display->setShowEnd(report);
-    m_display->setShortForm(report ? ZelFrame::ShortForm() : [this](int digits) {
-        return text(exponentText(m_menu.scratchPad().inputValue(), digits, m_menu.symbols()));
-    });
+    const KeyView& divide = view.operators[static_cast<std::size_t>(Operator::Divide)];
+    m_divideKey->setCaption(text(divide.caption));
+    m_divideKey->setTextColor(divide.lit ? colours.amber : colours.keyText);
+    m_display->setShowEnd(view.report);
+    m_display->setShortForm(shortForm(view.displayShortForms));
     if (page) {
         // What is not seen is not measured: the page face's fonts wait for it.
         m_display->setToolTip(m_display->fit().shortened ? m_display->caption() : QString());
     }
-    renderRows();
-    if (m_menu.face() != m_shownFace) {
+    renderRows(view);
+    if (view.face != m_shownFace) {
         // A keyboard user keeps a place to start from on the other face: the
         // page's own button on the menu, the window itself on a page.
         const bool keyboard = focusWidget() != this && focusWidget() != nullptr;
-        m_shownFace = m_menu.face();
+        m_shownFace = view.face;
         ZelFrame* button = page ? nullptr : pageButton(m_menu.currentPage());
         if (keyboard && button != nullptr) {
             button->setFocus(Qt::OtherFocusReason);
@@ -347,42 +404,51 @@ void MenuWindow::render() {
     }
 }
 
-void MenuWindow::renderRows() {
+ZelFrame::ShortForm MenuWindow::shortForm(const std::vector<std::string>& forms) {
+    if (forms.empty()) {
+        return {};
+    }
+    // The forms run from 15 significant digits down to 1.
+    return [forms](int digits) {
+        const auto at = static_cast<std::size_t>(std::clamp(15 - digits, 0, 14));
+        return text(forms[std::min(at, forms.size() - 1)]);
+    };
+}
+
+void MenuWindow::renderRows(const View& view) {
     const TextColours& colours = textColours(m_night);
-    const Symbols& symbols = m_menu.symbols();
     for (int row = 1; row <= 8; ++row) {
-        const RowCell& cell = m_menu.row(row);
+        const RowView& cell = view.rows[static_cast<std::size_t>(row - 1)];
         const QColor colour = cell.input ? colours.input : colours.row;
         ZelFrame* value = m_values[static_cast<std::size_t>(row)];
-        value->setCaption(text(cell.caption));
-        value->setPointSize(cell.compact ? 9 : 12);
+        value->setCaption(text(cell.value));
+        value->setPointSize(cell.emphasis);
         // What the user gave stands out from what the page worked out: bold,
         // with a small mark in the cell's corner.
-        const bool given = cell.isGiven() && !cell.input;
-        value->setBold(given);
-        value->setCornerCaption(given ? QStringLiteral("given") : QString());
+        value->setBold(cell.given);
+        value->setCornerCaption(cell.given ? QStringLiteral("given") : QString());
         value->setTextColor(colour);
-        // A number too long for its cell is drawn in exponent form, after
-        // the side or head/tail letter it may carry ("R 1.5E+20").
-        const double v = textValue(cell.tag, symbols);
-        ZelFrame::ShortForm shortForm;
-        if (cell.held || v != 0) {
-            shortForm = [prefix = cell.prefix, v = cell.prefix.empty() ? v : std::fabs(v), symbols](
-                            int digits) { return text(prefix + exponentText(v, digits, symbols)); };
-        }
-        value->setShortForm(shortForm);
+        value->setShortForm(shortForm(cell.shortForms));
         ZelFrame* unit = m_units[static_cast<std::size_t>(row)];
         unit->setCaption(text(cell.unit));
         unit->setTextColor(colour);
-        // Each row names the key that clicks it.
-        const QString rowTip = QStringLiteral("%1 (Ctrl+%2)").arg(text(cell.unit)).arg(row);
-        unit->setToolTip(cell.unit.empty() ? QString() : rowTip);
+        // Each row names the key that clicks it, and how a value is typed
+        // where that is not plain ("1.30 = 1:30").
+        QString rowTip = QStringLiteral("%1 (%2)").arg(text(cell.unit), text(cell.key));
+        if (!cell.hint.empty()) {
+            rowTip += QStringLiteral(": ") + text(cell.hint);
+        }
+        value->setAccessibleDescription(cell.given ? QStringLiteral("given") : text(cell.hint));
+        unit->setToolTip(cell.exists ? rowTip : QString());
         // To a screen reader the row is its unit, with the value it holds.
         value->setAccessibleName(text(cell.unit));
-        value->setAccessibleValue(text(cell.caption));
-        const bool whole = m_menu.face() != Face::Page || cell.caption.empty() ||
+        // A coordinate is also said and shown in degrees and minutes.
+        value->setAccessibleValue(text(cell.detail.empty() ? cell.value : cell.detail));
+        const bool whole = view.face != Face::Page || cell.value.empty() ||
                            !(value->fit().shortened || value->fit().wrapped);
-        value->setToolTip(whole ? (cell.unit.empty() ? QString() : rowTip) : text(cell.caption));
+        value->setToolTip(!cell.detail.empty() ? text(cell.detail)
+                          : whole              ? (cell.exists ? rowTip : QString())
+                                               : text(cell.value));
         m_bands[static_cast<std::size_t>(row)]->setVisible(cell.input);
     }
 }
@@ -408,14 +474,14 @@ bool MenuWindow::event(QEvent* e) {
             icon.addPixmap(pageIcon(AppIcon, size, textColours(false).row, 1));
         }
         setWindowIcon(icon);
-        act([this] { m_menu.Form_Activate(); });
+        act([this] { m_menu.activate(); });
     } else if (e->type() == QEvent::WindowActivate) {
         const bool ownDialog = m_interaction && m_interaction->takeDialogClosed();
         if (!ownDialog && !std::exchange(m_skipActivation, false)) {
-            act([this] { m_menu.Form_Activate(); });
+            act([this] { m_menu.activate(); });
         }
     } else if (e->type() == QEvent::Close) {
-        m_menu.Form_QueryUnload();
+        m_menu.close();
     } else if (e->type() == QEvent::ScreenChangeInternal ||
                e->type() == QEvent::ApplicationPaletteChange) {
         // Another screen may have another pixel ratio; another desktop palette

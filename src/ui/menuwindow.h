@@ -18,6 +18,7 @@ class QMenu;
 
 namespace zel {
 
+class LoadingPanel;
 class QtInteraction;
 
 /// The one window: the menu face (the page buttons) and the page face (title
@@ -47,9 +48,10 @@ class MenuWindow : public QWidget {
     /// A short flash of the display, seen where the bell is muted.
     void flash();
 
-    /// The window's width at 100 %: 295 pixels, as the original 4420 twips.
+    /// The window's width at 100 %: 295 pixels.
     static constexpr int DesignWidth = 295;
-    /// The window's height at 100 %: as many lines of page buttons as `pages` fill.
+    /// The window's height at 100 %: the menu's groups, each a heading and
+    /// as many lines of three page buttons as it fills.
     static int designHeight(const PageCatalogue& pages);
     /// The zoom steps, 100 % to 250 %.
     static constexpr std::array<qreal, 6> Zooms{1.0, 1.25, 1.5, 1.75, 2.0, 2.5};
@@ -82,6 +84,8 @@ class MenuWindow : public QWidget {
     QWidget* pageFace() const { return m_pageFace; }
     QWidget* memoryPanel() const { return m_memoryPanel; }
     QWidget* operatorPanel() const { return m_operatorPanel; }
+    /// The Weight & Balance page's sheet, in place of the rows.
+    LoadingPanel* loadingPanel() const { return m_loadingPanel; }
 
   protected:
     bool event(QEvent* event) override;
@@ -95,6 +99,7 @@ class MenuWindow : public QWidget {
 
   private:
     void buildMenuFace();
+    void buildPageButton(const PageButton& entry, QRect geometry);
     void buildPageFace();
     void buildCalculator(QWidget* panel);
     void buildRows(QWidget* panel);
@@ -105,12 +110,14 @@ class MenuWindow : public QWidget {
     /// The icon of a page, or the program's own for 0.
     std::string_view iconName(int page) const;
     /// The controls Tab moves over on the face shown, in order.
-    std::vector<ZelFrame*> focusChain() const;
+    std::vector<QWidget*> focusChain() const;
     /// Moves the focus `step` places along the chain (or the menu grid).
     void moveFocus(int step);
     /// The row whose value or unit cell this is; 0 for another widget.
     int rowOf(const QWidget* widget) const;
-    void renderRows();
+    void renderRows(const View& view);
+    /// A face's short form from the view's forms, by the digits that fit.
+    static ZelFrame::ShortForm shortForm(const std::vector<std::string>& forms);
     // The desktop's conventions (windowdesktop.cpp).
     /// Sizes and colours for the zoom and palette, icons for the pixel ratio.
     void restyle();
@@ -121,12 +128,17 @@ class MenuWindow : public QWidget {
     void copy(const std::string& text);
     void paste();
     void showAbout();
-    bool shortcut(QKeyEvent* event);
+    /// A Qt key event in the calculator's words.
+    Chord chordOf(const QKeyEvent* event) const;
+    /// Does what a key asked of the window itself.
+    void perform(FaceAction action);
 
     Menu& m_menu;
     QtInteraction* m_interaction;
     int m_designHeight;
     std::vector<ZelFrame*> m_pageButtons; ///< by page number; 0 unused
+    std::vector<ZelFrame*> m_menuHeadings;
+    std::vector<std::string> m_icons; ///< each page's icon, by page number
     QString m_memoryFile;
     bool m_remember = true;
     ZelFrame* m_titleBar = nullptr;
@@ -141,6 +153,8 @@ class MenuWindow : public QWidget {
     ZelFrame* m_operatorPanel = nullptr;
     ZelFrame* m_rowsPanel = nullptr;
     ZelFrame* m_divideKey = nullptr;
+    LoadingPanel* m_loadingPanel = nullptr;
+    ZelFrame* m_loadingSheet = nullptr;
     std::array<ZelFrame*, 9> m_values{};
     std::array<ZelFrame*, 9> m_units{};
     std::array<ZelFrame*, 9> m_bands{};
@@ -164,7 +178,6 @@ class MenuWindow : public QWidget {
     /// Keys whose press reached this window: only their release acts, never
     /// the release of a key that closed a dialog.
     std::set<int> m_pressed;
-    bool m_aboutKey = false; ///< F1 went down with Shift
 };
 
 /// The icon of a page (0: the application), drawn in one colour at a size.

@@ -9,10 +9,13 @@
 namespace zel {
 namespace {
 
-/// Message texts break lines with a lone carriage return; Qt wants line feeds.
-QString shown(std::string_view text) {
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()))
-        .replace(QLatin1Char('\r'), QLatin1Char('\n'));
+/// A box's paragraphs, an empty line between them.
+QString shown(const std::vector<std::string>& paragraphs) {
+    QStringList texts;
+    for (const std::string& paragraph : paragraphs) {
+        texts << QString::fromStdString(paragraph);
+    }
+    return texts.join(QStringLiteral("\n\n"));
 }
 
 } // namespace
@@ -33,47 +36,55 @@ void QtInteraction::beep() {
     }
 }
 
-void QtInteraction::message(MessageIcon icon, std::string_view title, std::string_view text) {
-    const QMessageBox::Icon icons[] = {QMessageBox::Information, QMessageBox::Warning,
-                                       QMessageBox::Critical};
-    const QMessageBox::Icon kind = icons[static_cast<int>(icon)];
-    open({[kind, title = shown(title), text = shown(text)](QWidget* parent) -> QDialog* {
-              return new QMessageBox(kind, title, text, QMessageBox::Ok, parent);
-          },
-          {}});
-}
-
-void QtInteraction::ask(const Request& request, Then<const Answer&> then) {
-    const QString title = shown(request.title);
-    const QString text = shown(request.text);
-    if (request.kind == Request::Kind::Question) {
-        open({[title, text](QWidget* parent) -> QDialog* {
-                  return new QMessageBox(QMessageBox::Question, title, text,
-                                         QMessageBox::Yes | QMessageBox::No, parent);
-              },
-              [this, then](QDialog& box, int) {
-                  const auto& question = static_cast<QMessageBox&>(box);
-                  const bool yes = question.clickedButton() == question.button(QMessageBox::Yes);
-                  m_dispatch([&] { then(Answer{yes, std::nullopt}); });
-              }});
-        return;
+void QtInteraction::open(const Request& request) {
+    const QString title = QString::fromStdString(request.title);
+    const QString text = shown(request.paragraphs);
+    const int id = request.id;
+    auto answer = [this, id](const Answer& given) {
+        if (m_answer) {
+            m_dispatch([&] { m_answer(id, given); });
+        }
+    };
+    switch (request.kind) {
+    case Request::Kind::Message: {
+        const QMessageBox::Icon icons[] = {QMessageBox::Information, QMessageBox::Warning,
+                                           QMessageBox::Critical, QMessageBox::Question};
+        const QMessageBox::Icon kind = icons[static_cast<int>(request.icon)];
+        queue({[kind, title, text](QWidget* parent) -> QDialog* {
+                   return new QMessageBox(kind, title, text, QMessageBox::Ok, parent);
+               },
+               [answer](QDialog&, int) { answer({}); }});
+        break;
     }
-    open({[title, text](QWidget* parent) -> QDialog* {
-              auto* box = new QInputDialog(parent);
-              box->setWindowTitle(title);
-              box->setLabelText(text);
-              return box;
-          },
-          [this, then](QDialog& box, int result) {
-              Answer answer;
-              if (result == QDialog::Accepted) {
-                  answer.text = static_cast<QInputDialog&>(box).textValue().toStdString();
-              }
-              m_dispatch([&] { then(answer); });
-          }});
+    case Request::Kind::Question:
+        queue({[title, text](QWidget* parent) -> QDialog* {
+                   return new QMessageBox(QMessageBox::Question, title, text,
+                                          QMessageBox::Yes | QMessageBox::No, parent);
+               },
+               [answer](QDialog& box, int) {
+                   const auto& question = static_cast<QMessageBox&>(box);
+                   answer({question.clickedButton() == question.button(QMessageBox::Yes), {}});
+               }});
+        break;
+    case Request::Kind::Input:
+        queue({[title, text](QWidget* parent) -> QDialog* {
+                   auto* box = new QInputDialog(parent);
+                   box->setWindowTitle(title);
+                   box->setLabelText(text);
+                   return box;
+               },
+               [answer](QDialog& box, int result) {
+                   Answer given;
+                   if (result == QDialog::Accepted) {
+                       given.text = static_cast<QInputDialog&>(box).textValue().toStdString();
+                   }
+                   answer(given);
+               }});
+        break;
+    }
 }
 
-void QtInteraction::open(Box box) {
+void QtInteraction::queue(Box box) {
     m_waiting.push_back(std::move(box));
     showNext();
 }

@@ -172,7 +172,7 @@ void MenuWindow::copy(const std::string& text) {
 }
 
 void MenuWindow::paste() {
-    act([this] { m_menu.Form_Paste(QGuiApplication::clipboard()->text().toStdString()); });
+    act([this] { m_menu.paste(QGuiApplication::clipboard()->text().toStdString()); });
 }
 
 QMenu* MenuWindow::rowMenu(int row) {
@@ -185,40 +185,26 @@ QMenu* MenuWindow::rowMenu(int row) {
 
 void MenuWindow::contextMenuEvent(QContextMenuEvent* event) {
     const int row = rowOf(childAt(event->pos()));
-    if (m_menu.face() == Face::Page && row != 0 && !m_menu.row(row).unit.empty()) {
+    if (m_menu.face() == Face::Page && row != 0 && m_menu.page()->row(row).unit.size() != 0) {
         rowMenu(row)->popup(event->globalPos());
     }
 }
 
 QString MenuWindow::aboutText() {
-    const std::pair<const char*, const char*> keys[] = {
-        {"F1 – F12", "open Weight … Fuel Uplift, Snowtam, Wind Comp"},
-        {"arrows, Tab, Shift+Tab", "move the focus"},
-        {"Enter", "opens the focused page; the result of a calculation; decodes a report"},
-        {"Space", "presses the focused key or row"},
-        {"digits , . + - * x / Backspace", "type the number and work it out"},
-        {"Ctrl+1 … Ctrl+8", "click row 1 … 8"},
-        {"Alt+M, Alt+Left", "back to the menu"},
-        {"Escape", "clears; on the menu, quits"},
-        {"Ctrl+C, Ctrl+Shift+C", "copy the display, copy the page"},
-        {"Ctrl+V, Shift+Insert", "paste a number or a report"},
-        {"Ctrl+plus, Ctrl+minus, Ctrl+0", "zoom in, out, back to 100 %"},
-        {"Ctrl+Shift+N", "night palette on or off"},
-        {"Shift+F1", "this box"},
-    };
     QString table;
-    for (const auto& [key, action] : keys) {
+    for (const HelpLine& line : m_menu.view().help) {
         table += QStringLiteral("<tr><td><b>%1</b></td><td>%2</td></tr>")
-                     .arg(QString::fromUtf8(key), QString::fromUtf8(action));
+                     .arg(escaped(line.keys), escaped(line.does));
+    }
+    QString notes;
+    for (const std::string& note : licenceNotes()) {
+        notes += QStringLiteral("<p>%1</p>").arg(escaped(note));
     }
     return QStringLiteral("<h3>%1</h3><p>A calculator for aircraft pilots.</p>"
                           "<table cellspacing='4'>%2</table>"
-                          "<p>Settings file: %3<br>%4</p>"
-                          "<p>This program is free software under the GNU General Public "
-                          "License, version 3 or any later version. It comes with absolutely "
-                          "no warranty; it is no substitute for the aircraft's documents.</p>")
+                          "<p>Settings file: %3<br>%4</p>%5")
         .arg(escaped(versionText()), table, escaped(m_menu.settingsFile()),
-             escaped(m_menu.ratesNote()));
+             escaped(m_menu.ratesNote()), notes);
 }
 
 void MenuWindow::showAbout() {
@@ -228,31 +214,6 @@ void MenuWindow::showAbout() {
     box->setTextFormat(Qt::RichText);
     box->setIconPixmap(pageIcon(AppIcon, 48, textColours(false).row, devicePixelRatioF()));
     box->open();
-}
-
-bool MenuWindow::shortcut(QKeyEvent* e) {
-    const Qt::KeyboardModifiers modifiers = e->modifiers() & ~Qt::KeypadModifier;
-    const bool ctrl = modifiers == Qt::ControlModifier;
-    const bool ctrlShift = modifiers == (Qt::ControlModifier | Qt::ShiftModifier);
-    const auto step = std::find(Zooms.begin(), Zooms.end(), m_zoom) - Zooms.begin();
-    if (e->matches(QKeySequence::Paste)) {
-        paste();
-    } else if (ctrlShift && e->key() == Qt::Key_C) {
-        copy(m_menu.pageText());
-    } else if (ctrl && e->key() == Qt::Key_C) {
-        copy(m_menu.displayNumber());
-    } else if (ctrlShift && e->key() == Qt::Key_N) {
-        setNight(!m_night);
-    } else if ((ctrl || ctrlShift) && (e->key() == Qt::Key_Plus || e->key() == Qt::Key_Equal)) {
-        setZoom(Zooms[static_cast<std::size_t>(std::min<long>(step + 1, Zooms.size() - 1))]);
-    } else if (ctrl && e->key() == Qt::Key_Minus) {
-        setZoom(Zooms[static_cast<std::size_t>(std::max<long>(step - 1, 0))]);
-    } else if (ctrl && e->key() == Qt::Key_0) {
-        setZoom(1.0);
-    } else {
-        return false;
-    }
-    return true;
 }
 
 } // namespace zel

@@ -1,39 +1,89 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // SPDX-FileCopyrightText: 2026 zelFLIGHTAB developers
-// The window's keys. Typed characters go to Form_KeyPress as they are pressed;
-// Enter, Escape and the function keys go to Form_KeyUp when they are released,
-// but only when their press reached this window too: the key that closes a
-// message box is pressed in the box and released here, and must not act again.
-// Beyond that, everything can be reached without the mouse: Ctrl+1..8 click
-// the rows, Alt+M or Alt+Left go back to the menu, Tab and the arrows move a
-// visible focus, and Space (Enter on the menu) presses what has it.
+// The window's keys: each Qt key event becomes the calculator's own chord,
+// and the calculator says what it does with it; the window moves the focus,
+// copies, zooms and switches its palette when told to. A key's release goes
+// on only when its press reached this window too: the key that closes a
+// message box is pressed in the box and let go here, and must not act again.
+#include "ui/loadingpanel.h"
 #include "ui/menuwindow.h"
 
+#include <QAbstractButton>
 #include <QKeyEvent>
 
 #include <algorithm>
-#include <utility>
 
 namespace zel {
 namespace {
 
-int keyUpCode(int key) {
-    if (key == Qt::Key_Return || key == Qt::Key_Enter) {
-        return key::Enter;
-    }
-    if (key == Qt::Key_Escape) {
-        return key::Escape;
+std::optional<Key> keyOf(int key) {
+    switch (key) {
+    case Qt::Key_Backspace:
+        return Key::Backspace;
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        return Key::Enter;
+    case Qt::Key_Escape:
+        return Key::Escape;
+    case Qt::Key_Space:
+        return Key::Space;
+    case Qt::Key_Insert:
+        return Key::Insert;
+    case Qt::Key_Left:
+        return Key::Left;
+    case Qt::Key_Right:
+        return Key::Right;
+    case Qt::Key_Up:
+        return Key::Up;
+    case Qt::Key_Down:
+        return Key::Down;
+    default:
+        break;
     }
     if (key >= Qt::Key_F1 && key <= Qt::Key_F12) {
-        return key::F1 + (key - Qt::Key_F1);
+        return functionKey(key - Qt::Key_F1 + 1);
+    }
+    return std::nullopt;
+}
+
+/// The character a key types, or names with Ctrl or Alt held (which type
+/// none): its text, else the key's own letter or figure.
+char32_t characterOf(const QKeyEvent* e) {
+    const QList<uint> text = e->text().toUcs4();
+    if (!text.isEmpty() && text.front() >= 0x20 && text.front() != 0x7f) {
+        return text.front();
+    }
+    const int key = e->key();
+    if ((key >= Qt::Key_0 && key <= Qt::Key_9) || (key >= Qt::Key_A && key <= Qt::Key_Z)) {
+        return static_cast<char32_t>(key >= Qt::Key_A ? key - Qt::Key_A + 'a' : key);
+    }
+    if (key == Qt::Key_Plus || key == Qt::Key_Equal || key == Qt::Key_Minus) {
+        return static_cast<char32_t>(key);
     }
     return 0;
 }
 
 } // namespace
 
-std::vector<ZelFrame*> MenuWindow::focusChain() const {
-    std::vector<ZelFrame*> chain;
+Chord MenuWindow::chordOf(const QKeyEvent* e) const {
+    const Qt::KeyboardModifiers modifiers = e->modifiers() & ~Qt::KeypadModifier;
+    Chord chord;
+    chord.ctrl = (modifiers & (Qt::ControlModifier | Qt::MetaModifier)) != 0;
+    chord.alt = (modifiers & Qt::AltModifier) != 0;
+    chord.shift = (modifiers & Qt::ShiftModifier) != 0;
+    chord.repeat = e->isAutoRepeat();
+    chord.focused =
+        focusWidget() != this && focusWidget() != nullptr && isAncestorOf(focusWidget());
+    if (const auto key = keyOf(e->key())) {
+        chord.key = *key;
+    } else {
+        chord.character = characterOf(e);
+    }
+    return chord;
+}
+
+std::vector<QWidget*> MenuWindow::focusChain() const {
+    std::vector<QWidget*> chain;
     if (m_menu.face() == Face::Menu) {
         for (ZelFrame* button : m_pageButtons) {
             if (button != nullptr) {
@@ -43,15 +93,21 @@ std::vector<ZelFrame*> MenuWindow::focusChain() const {
         return chain;
     }
     // The title bar, the calculator as it reads, then the rows.
+    const View view = m_menu.view();
     chain.push_back(m_menuButton);
-    if (m_menu.panelsVisible()) {
+    if (view.panels) {
         chain.insert(chain.end(),
                      {m_digitsKey, m_operatorKeys[1], m_operatorKeys[2], m_operatorKeys[3],
                       m_divideKey, m_memoryKeys[0], m_memoryKeys[1], m_memoryKeys[2]});
     }
     chain.push_back(m_clearKey);
+    if (view.loading && m_loadingPanel != nullptr) {
+        const std::vector<QWidget*> sheet = m_loadingPanel->focusChain();
+        chain.insert(chain.end(), sheet.begin(), sheet.end());
+        return chain;
+    }
     for (int row = 1; row <= 8; ++row) {
-        if (!m_menu.row(row).unit.empty()) {
+        if (view.rows[static_cast<std::size_t>(row - 1)].exists) {
             chain.push_back(m_values[static_cast<std::size_t>(row)]);
         }
     }
@@ -59,7 +115,7 @@ std::vector<ZelFrame*> MenuWindow::focusChain() const {
 }
 
 void MenuWindow::moveFocus(int step) {
-    const std::vector<ZelFrame*> chain = focusChain();
+    const std::vector<QWidget*> chain = focusChain();
     if (chain.empty()) {
         return;
     }
@@ -82,74 +138,70 @@ bool MenuWindow::focusNextPrevChild(bool next) {
 
 void MenuWindow::keyPressEvent(QKeyEvent* e) {
     m_pressed.insert(e->key());
-    if (e->key() == Qt::Key_F1) {
-        // Shift+F1 is About, whichever key is let go first.
-        m_aboutKey = e->modifiers() == Qt::ShiftModifier;
+    const Chord chord = chordOf(e);
+    if (chord.key == Key::Character && chord.character == 0) {
+        return; // a modifier alone, or a key that types nothing
     }
-    if (shortcut(e)) {
-        return;
-    }
-    const Qt::KeyboardModifiers modifiers = e->modifiers() & ~Qt::KeypadModifier;
-    const bool page = m_menu.face() == Face::Page;
-    if (modifiers == Qt::ControlModifier && e->key() >= Qt::Key_1 && e->key() <= Qt::Key_8) {
-        if (!e->isAutoRepeat()) {
-            const int row = e->key() - Qt::Key_0;
-            act([this, row] { m_menu.LabValue_Click(row); });
-        }
-        return;
-    }
-    if (modifiers == Qt::AltModifier && (e->key() == Qt::Key_M || e->key() == Qt::Key_Left)) {
-        act([this] { m_menu.LabelMenu_Click(); });
-        return;
-    }
-    if (modifiers & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) {
-        return; // a shortcut, not a character
-    }
-    if (!page) {
-        // The page buttons stand three to a line.
-        const int step = e->key() == Qt::Key_Left    ? -1
-                         : e->key() == Qt::Key_Right ? 1
-                         : e->key() == Qt::Key_Up    ? -3
-                         : e->key() == Qt::Key_Down  ? 3
-                                                     : 0;
-        if (step != 0) {
-            moveFocus(step);
-            return;
-        }
-    }
-    if (e->key() == Qt::Key_Backspace) {
-        act([this] { m_menu.Form_KeyPress(key::Backspace); });
-        return;
-    }
-    if (e->key() == Qt::Key_Space && page && !m_menu.page()->isText() && focusWidget() != this) {
-        return; // presses the focused control when released
-    }
-    for (const char32_t c : e->text().toUcs4()) {
-        if (c >= 0x20 && c != 0x7f) {
-            act([this, c] { m_menu.Form_KeyPress(c); });
-        }
-    }
+    FaceAction action = FaceAction::None;
+    act([&] { action = m_menu.keyDown(chord); });
+    perform(action);
 }
 
 void MenuWindow::keyReleaseEvent(QKeyEvent* e) {
     if (e->isAutoRepeat() || m_pressed.erase(e->key()) == 0) {
         return; // its press went to a dialog, or was repeated
     }
-    if (e->key() == Qt::Key_F1 && std::exchange(m_aboutKey, false)) {
+    const Chord chord = chordOf(e);
+    FaceAction action = FaceAction::None;
+    act([&] { action = m_menu.keyUp(chord); });
+    perform(action);
+}
+
+void MenuWindow::perform(FaceAction action) {
+    const auto step = std::find(Zooms.begin(), Zooms.end(), m_zoom) - Zooms.begin();
+    switch (action) {
+    case FaceAction::None:
+        break;
+    case FaceAction::CopyDisplay:
+        copy(m_menu.displayNumber());
+        break;
+    case FaceAction::CopyPage:
+        copy(m_menu.pageText());
+        break;
+    case FaceAction::Paste:
+        paste();
+        break;
+    case FaceAction::ZoomIn:
+        setZoom(Zooms[static_cast<std::size_t>(std::min<long>(step + 1, Zooms.size() - 1))]);
+        break;
+    case FaceAction::ZoomOut:
+        setZoom(Zooms[static_cast<std::size_t>(std::max<long>(step - 1, 0))]);
+        break;
+    case FaceAction::ZoomReset:
+        setZoom(1.0);
+        break;
+    case FaceAction::Night:
+        setNight(!m_night);
+        break;
+    case FaceAction::About:
         showAbout();
-        return;
-    }
-    auto* focused = qobject_cast<ZelFrame*>(focusWidget());
-    const bool page = m_menu.face() == Face::Page;
-    const bool space = e->key() == Qt::Key_Space && e->modifiers() == Qt::NoModifier;
-    const bool enter = keyUpCode(e->key()) == key::Enter;
-    if (focused != nullptr && isAncestorOf(focused) && (space || (enter && !page)) &&
-        !(page && m_menu.page()->isText())) {
-        focused->press();
-        return;
-    }
-    if (const int code = keyUpCode(e->key()); code != 0) {
-        act([this, code] { m_menu.Form_KeyUp(code); });
+        break;
+    case FaceAction::FocusLeft:
+    case FaceAction::FocusRight:
+        moveFocus(action == FaceAction::FocusLeft ? -1 : 1);
+        break;
+    case FaceAction::FocusUp:
+    case FaceAction::FocusDown:
+        // The page buttons stand three to a line.
+        moveFocus(action == FaceAction::FocusUp ? -3 : 3);
+        break;
+    case FaceAction::PressFocused:
+        if (auto* focused = qobject_cast<ZelFrame*>(focusWidget())) {
+            focused->press();
+        } else if (auto* button = qobject_cast<QAbstractButton*>(focusWidget())) {
+            button->click(); // a cell of the loading sheet
+        }
+        break;
     }
 }
 

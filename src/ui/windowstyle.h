@@ -30,7 +30,7 @@ struct TextColours {
     QColor line;           ///< separator lines on the sheet
 };
 
-/// The day palette has the colours pilots know from the original calculator;
+/// The day palette: dark blue text on a light sheet, slate keys, amber highlights;
 /// the night palette keeps night vision: dark sheet and panels, soft light
 /// text, the amber highlights as they are.
 ZelFrame::Style lookStyle(Look look, bool night);

@@ -77,6 +77,11 @@ void ZelFrame::setIcon(const QPixmap& icon) {
     update();
 }
 
+void ZelFrame::setIconBeside(bool beside) {
+    m_iconBeside = beside;
+    update();
+}
+
 void ZelFrame::setCornerCaption(const QString& caption) {
     m_corner = caption;
     update();
@@ -126,7 +131,12 @@ QRectF ZelFrame::textArea() const {
     QRectF text = area.adjusted(6 * m_scale, 2 * m_scale, -6 * m_scale, -2 * m_scale);
     if (!m_icon.isNull()) {
         const qreal side = m_icon.width() / m_icon.devicePixelRatio();
-        text.setTop(area.top() + area.height() * 0.16 + side + m_scale);
+        if (m_iconBeside) {
+            text.setLeft(area.left() + 4 * m_scale + side + 3 * m_scale);
+            text.setRight(area.right() - 2 * m_scale);
+        } else {
+            text.setTop(area.top() + area.height() * 0.16 + side + m_scale);
+        }
     }
     return text;
 }
@@ -244,7 +254,13 @@ void ZelFrame::paintEvent(QPaintEvent*) {
     const QRectF text = textArea();
     if (!m_icon.isNull()) {
         const qreal side = m_icon.width() / m_icon.devicePixelRatio();
-        p.drawPixmap(QPointF(area.center().x() - side / 2, area.top() + area.height() * 0.16),
+        // Beside the caption the icon stands in the top left corner, with
+        // the corner caption (the F-key) under it.
+        p.drawPixmap(m_iconBeside
+                         ? QPointF(area.left() + 4 * m_scale, m_corner.isEmpty()
+                                                                  ? area.center().y() - side / 2
+                                                                  : area.top() + 3 * m_scale)
+                         : QPointF(area.center().x() - side / 2, area.top() + area.height() * 0.16),
                      m_icon);
     }
     const Fit shown = fit();
@@ -253,7 +269,8 @@ void ZelFrame::paintEvent(QPaintEvent*) {
     font.setBold(m_bold);
     p.setFont(font);
     p.setPen(m_style.text);
-    const Qt::Alignment vertical = m_icon.isNull() ? Qt::AlignVCenter : Qt::AlignTop;
+    const Qt::Alignment vertical =
+        m_icon.isNull() || m_iconBeside ? Qt::AlignVCenter : Qt::AlignTop;
     p.drawText(text,
                static_cast<int>(m_alignment | vertical) | (shown.wrapped ? Qt::TextWordWrap : 0),
                shown.text);
@@ -262,8 +279,13 @@ void ZelFrame::paintEvent(QPaintEvent*) {
         small.setPointSizeF(6.5 * m_scale);
         p.setFont(small);
         p.setPen(QColor(255, 190, 0, 200));
-        p.drawText(area.adjusted(3 * m_scale, 2 * m_scale, -5 * m_scale, 0),
-                   Qt::AlignTop | Qt::AlignRight, m_corner);
+        if (m_iconBeside) {
+            p.drawText(area.adjusted(4 * m_scale, 0, 0, -1 * m_scale),
+                       Qt::AlignBottom | Qt::AlignLeft, m_corner);
+        } else {
+            p.drawText(area.adjusted(3 * m_scale, 2 * m_scale, -5 * m_scale, 0),
+                       Qt::AlignTop | Qt::AlignRight, m_corner);
+        }
     }
 }
 

@@ -40,6 +40,8 @@ class ZelFrame : public QWidget {
     void setAlignment(Qt::Alignment alignment);
     void setBold(bool bold);
     void setIcon(const QPixmap& icon);
+    /// The icon drawn left of the caption instead of above it.
+    void setIconBeside(bool beside);
     /// A small caption drawn in the top right corner (the F-key of a page button).
     void setCornerCaption(const QString& caption);
     QString cornerCaption() const { return m_corner; }
@@ -103,6 +105,7 @@ class ZelFrame : public QWidget {
     QPixmap m_icon;
     ShortForm m_shortForm;
     bool m_showEnd = false;
+    bool m_iconBeside = false;
     qreal m_pointSize = 9;
     qreal m_scale = 1;
     bool m_bold = false;

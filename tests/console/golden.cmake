@@ -4,7 +4,9 @@
 # script made of a line "#run: ..." runs the program with those arguments
 # instead of the console (one-line conversions, --help).
 # Each script runs with a settings folder of its own, which starts from
-# NAME.ini when the script has one beside it (else from the shipped file).
+# NAME.ini when the script has one beside it (else from the shipped file),
+# and in that folder, where the test profiles of tests/data/aircraft are at
+# aircraft/ (and a profile a script exports stays).
 # LAUNCHER, when given, runs the program (node for the WebAssembly build).
 get_filename_component(dir ${SCRIPT} DIRECTORY)
 get_filename_component(name ${SCRIPT} NAME_WE)
@@ -24,6 +26,7 @@ if(EXISTS ${dir}/${name}.ini)
     file(MAKE_DIRECTORY ${folder}/Tech)
     file(COPY_FILE ${dir}/${name}.ini ${folder}/Tech/zelFLIGHTAB.ini)
 endif()
+file(COPY ${dir}/../data/aircraft DESTINATION ${folder})
 file(STRINGS ${SCRIPT} run_lines REGEX "^#run:")
 set(command ${LAUNCHER} ${PROGRAM} --console ${SCRIPT} --folder ${folder} ${args})
 if(run_lines)
@@ -32,7 +35,7 @@ if(run_lines)
     separate_arguments(run_args UNIX_COMMAND "${run_line}")
     set(command ${LAUNCHER} ${PROGRAM} --folder ${folder} ${run_args})
 endif()
-execute_process(COMMAND ${command}
+execute_process(COMMAND ${command} WORKING_DIRECTORY ${folder}
     OUTPUT_VARIABLE out ERROR_VARIABLE err RESULT_VARIABLE status)
 set(actual "${out}${err}exit ${status}\n")
 file(READ ${dir}/${name}.expected expected)

@@ -2,9 +2,9 @@
 // SPDX-FileCopyrightText: 2026 zelFLIGHTAB developers
 // Rate downloads end to end: the real Qt HTTP client and real files in a
 // temporary folder, against a server on 127.0.0.1 that the test runs.
-#include "fakeplatform.h"
 #include "currency/profile.h"
 #include "currency/ratepages.h"
+#include "fakeplatform.h"
 #include "localserver.h"
 #include "platform/qthttp.h"
 #include "platform/qtstorage.h"
@@ -105,26 +105,26 @@ struct Download {
 
     Download(const std::string& source, const std::string& own = "XXX",
              const QByteArray& ecbUrl = {}) {
-        storage.write(
-            path,
-            "; kept by hand\r\n[Rates]\r\nEUR=1\r\nUSD=1.0705\r\nmyCurrName=Mine\r\n"
-            "myCurrCode=" +
-                own + "\r\nDate=45471\r\n\r\n[Download]\r\nSource=" + source +
-                "\r\nEcbUrl=" + (ecbUrl.isEmpty() ? server.url("/ecb.xml") : ecbUrl).toStdString() +
-                "\r\nConverterUrl=" + server.url("/finance/converter").toStdString() + "\r\n");
-        menu.Form_Load();
-        menu.Form_Activate();
+        ui.answer = [this](int request, const Answer& given) { menu.answer(request, given); };
+        writeNow(storage, path,
+                 "; kept by hand\r\n[Rates]\r\nEUR=1\r\nUSD=1.0705\r\nmyCurrName=Mine\r\n"
+                 "myCurrCode=" +
+                     own + "\r\nDate=45471\r\n\r\n[Download]\r\nSource=" + source + "\r\nEcbUrl=" +
+                     (ecbUrl.isEmpty() ? server.url("/ecb.xml") : ecbUrl).toStdString() +
+                     "\r\nConverterUrl=" + server.url("/finance/converter").toStdString() + "\r\n");
+        menu.start();
+        menu.activate();
     }
     std::string settings() { return storage.read(path).bytes; }
     /// Opens the Currency page, says yes to the download, converts 100 euro.
     void openAndConvert() {
         ui.answers = {true};
-        menu.LabMenu_Click(page::Currency);
+        menu.openPage(page::Currency);
         settle(menu);
         for (char c : std::string("100")) {
-            menu.Form_KeyPress(static_cast<unsigned char>(c));
+            menu.type(static_cast<unsigned char>(c));
         }
-        menu.LabValue_Click(3);
+        menu.clickRow(3);
     }
     bool saw(const std::string& text) const {
         return std::find(ui.events.begin(), ui.events.end(), text) != ui.events.end();
@@ -138,8 +138,8 @@ TEST(RateDownload, TheEcbFeedGivesTheRates) {
     d.openAndConvert();
     EXPECT_EQ(d.ui.events, (std::vector<std::string>{"question Download recent currency rates ?",
                                                      "busy on", "busy off", "beep"}));
-    EXPECT_EQ(d.menu.row(7).caption, "116.12");
-    EXPECT_EQ(d.menu.row(5).caption, "18,021.00");
+    EXPECT_EQ(d.menu.view().rows[7 - 1].value, "116.12");
+    EXPECT_EQ(d.menu.view().rows[5 - 1].value, "18,021.00");
     EXPECT_EQ(profile::read(d.settings(), "Rates", "Date"),
               std::to_string(daySerial(QtClock().today())));
     EXPECT_EQ(d.techFiles(), QStringList({"rate_ECB.xml", "zelFLIGHTAB.ini"}));
@@ -160,7 +160,7 @@ TEST(RateDownload, TheConverterGivesOnePagePerCurrency) {
     EXPECT_EQ(profile::read(d.settings(), "Rates", "XXX"), "2");
     EXPECT_EQ(d.server.requested.size(), 7);
     EXPECT_EQ(d.server.requested.front(), "/finance/converter?a=1&from=EUR&to=AUD");
-    EXPECT_EQ(d.menu.row(7).caption, "129.17");
+    EXPECT_EQ(d.menu.view().rows[7 - 1].value, "129.17");
     EXPECT_EQ(d.techFiles().size(), 8);
 }
 

@@ -2,6 +2,7 @@
 // SPDX-FileCopyrightText: 2026 zelFLIGHTAB developers
 // Two programs writing one settings file at the same moment lose nothing.
 #include "currency/profile.h"
+#include "fakeplatform.h"
 #include "platform/qtstorage.h"
 
 #include <QCoreApplication>
@@ -22,7 +23,7 @@ int writeKeys(const std::string& file, const std::string& name) {
     QtStorage storage(file.substr(0, file.rfind('/')));
     for (int i = 0; i < Writes; ++i) {
         const std::string key = name + std::to_string(i % Keys);
-        const bool saved = storage.update(file, [&](const FileRead& read) {
+        const bool saved = updateNow(storage, file, [&](const FileRead& read) {
             return profile::write(read.bytes, "Rates", key, std::to_string(i));
         });
         if (!saved) {
@@ -68,7 +69,7 @@ TEST(SettingsLock, AStaleLockIsTakenOverAndABusyOneRefusedAfterFiveSeconds) {
     const std::string file = (dir.path() + "/zelFLIGHTAB.ini").toStdString();
     QtStorage storage(dir.path().toStdString());
     auto write = [&] {
-        return storage.update(file, [](const FileRead&) { return std::string("[Rates]\n"); });
+        return updateNow(storage, file, [](const FileRead&) { return std::string("[Rates]\n"); });
     };
     {
         // A lock left by a program that is gone.

@@ -45,16 +45,17 @@ struct Start {
         storage = std::make_unique<QtStorage>(QtStorage::locateProgramFolder(folder.toStdString()));
         Platform platform{ui, regional, *storage, network, clock};
         Menu menu(platform);
-        menu.Form_Load();
-        menu.Form_Activate();
-        menu.LabMenu_Click(page::Currency);
+        ui.answer = [&menu](int request, const Answer& given) { menu.answer(request, given); };
+        menu.start();
+        menu.activate();
+        menu.openPage(page::Currency);
         for (char c : std::string("100")) {
-            menu.Form_KeyPress(static_cast<unsigned char>(c));
+            menu.type(static_cast<unsigned char>(c));
         }
-        menu.LabValue_Click(3);
-        const std::string usd = menu.row(7).caption;
+        menu.clickRow(3);
+        const std::string usd = menu.view().rows[7 - 1].value;
         ui.inputs = {"Mexican Peso", "MXN"};
-        menu.LabMEM_Click(1);
+        menu.pressMemory(MemoryKey::Add);
         return usd;
     }
     bool toldUnsaved() const {

@@ -13,6 +13,7 @@
 #include <map>
 #include <stdexcept>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace zel::test {
@@ -20,10 +21,8 @@ namespace zel::test {
 /// A page's number in the menu, found by its name in the catalogue.
 inline int pageNumber(std::string_view name) {
     const PageCatalogue& pages = pageCatalogue();
-    for (int number = 1; number <= pages.count(); ++number) {
-        if (const PageTable* table = pages.find(number); table && table->name == name) {
-            return number;
-        }
+    if (const int number = pages.numberOf(pages.find(name)); number != 0) {
+        return number;
     }
     throw std::logic_error("no page " + std::string(name));
 }
@@ -43,39 +42,60 @@ inline const int Weight = pageNumber("Weight"), Fluid = pageNumber("Fluid"),
                  Turn = pageNumber("Turn"), FuelPlan = pageNumber("Fuel Plan"),
                  CloudBase = pageNumber("Cloud Base"), RwyCondition = pageNumber("RWY Condition"),
                  TrueAltitude = pageNumber("True Altitude"), Holding = pageNumber("Holding"),
-                 Sun = pageNumber("Sun");
+                 Sun = pageNumber("Sun"), Variation = pageNumber("Variation"),
+                 GreatCircle = pageNumber("Great Circle");
 } // namespace page
 
-/// Records what the user would see; answers questions and input boxes from queues.
+/// A box's paragraphs as one text, an empty line ("\r\r") between them.
+inline std::string joined(const std::vector<std::string>& paragraphs) {
+    std::string text;
+    for (const std::string& paragraph : paragraphs) {
+        text += (text.empty() ? "" : "\r\r") + paragraph;
+    }
+    return text;
+}
+
+/// Records what the user would see; answers questions and input boxes from
+/// queues (nothing queued is No, or Cancel) as they open, messages as read.
 class FakeInteraction : public Interaction {
   public:
     std::vector<std::string> events;
     std::deque<bool> answers;
     std::deque<std::optional<std::string>> inputs;
+    /// Where the answers go: the calculator's answer.
+    std::function<void(int, const Answer&)> answer;
+    /// Leaves the boxes open, as a window does until the user answers.
+    bool holdBoxes = false;
+    std::vector<Request> held;
 
     void beep() override { events.emplace_back("beep"); }
-    void message(MessageIcon icon, std::string_view title, std::string_view text) override {
-        static constexpr const char* Icons[] = {"information", "exclamation", "critical"};
-        events.push_back(std::string(Icons[static_cast<int>(icon)]) + " " + std::string(title) +
-                         ": " + std::string(text));
-    }
-    /// Answers at once, from the queues; nothing queued is No, or Cancel.
-    void ask(const Request& request, Then<const Answer&> then) override {
-        Answer answer;
-        if (request.kind == Request::Kind::Question) {
-            events.push_back("question " + request.text);
-            answer.yes = !answers.empty() && answers.front();
+    void open(const Request& request) override {
+        Answer given;
+        switch (request.kind) {
+        case Request::Kind::Message:
+            events.push_back(std::string(messageIconName(request.icon)) + " " + request.title +
+                             ": " + joined(request.paragraphs));
+            break;
+        case Request::Kind::Question:
+            events.push_back("question " + joined(request.paragraphs));
+            given.yes = !answers.empty() && answers.front();
             if (!answers.empty()) {
                 answers.pop_front();
             }
-        } else {
-            events.push_back("input " + request.text);
+            break;
+        case Request::Kind::Input:
+            events.push_back("input " + joined(request.paragraphs));
             if (!inputs.empty()) {
-                answer.text = inputs.front();
+                given.text = inputs.front();
                 inputs.pop_front();
             }
+            break;
         }
-        then(answer);
+        if (holdBoxes) {
+            held.push_back(request);
+        } else if (answer) {
+            answer(request.id, given);
+        }
     }
     void setBusy(bool busy) override { events.emplace_back(busy ? "busy on" : "busy off"); }
     void quit() override { events.emplace_back("quit"); }
@@ -85,15 +105,27 @@ class FakeRegional : public Regional {
   public:
     Symbols value;
     Symbols symbols() override { return value; }
+    std::string howToChange() override { return "You can modify your settings here."; }
 };
 
 /// Files in memory; `unreadable` and `readOnly` paths fail the way a disk does.
+/// Writes end at once, or when `finish` is called while `later` is set (as
+/// a browser's storage ends them).
 class FakeStorage : public Storage {
   public:
     std::string folder = "/pilot";
     std::map<std::string, std::string> files;
     std::vector<std::string> unreadable;
     std::vector<std::string> readOnly;
+    bool later = false;
+    std::vector<std::function<void()>> waiting;
+
+    /// Ends the writes that wait.
+    void finish() {
+        for (auto& end : std::exchange(waiting, {})) {
+            end();
+        }
+    }
 
     std::string programFolder() override { return folder; }
     FileRead read(const std::string& path) override {
@@ -103,21 +135,47 @@ class FakeStorage : public Storage {
         const auto file = files.find(path);
         return file == files.end() ? FileRead{} : FileRead{FileRead::Status::Ok, file->second};
     }
-    bool write(const std::string& path, std::string_view bytes) override {
+    void write(const std::string& path, std::string_view bytes, Then<bool> done) override {
+        end([this, path, bytes = std::string(bytes)] { return store(path, bytes); }, done);
+    }
+    void remove(const std::string& path) override { files.erase(path); }
+    std::vector<std::string> list(const std::string& where) override {
+        std::vector<std::string> names;
+        const std::string prefix = where + "/";
+        for (const auto& [path, bytes] : files) {
+            if (path.starts_with(prefix) && path.find('/', prefix.size()) == std::string::npos) {
+                names.push_back(path.substr(prefix.size()));
+            }
+        }
+        return names;
+    }
+    void update(const std::string& path, const Change& change, Then<bool> done) override {
+        end(
+            [this, path, change] {
+                const FileRead file = read(path);
+                const auto changed = change(file);
+                return changed && (*changed == file.bytes || store(path, *changed));
+            },
+            done);
+    }
+
+    std::string& settings() { return files[settingsPath(folder)]; }
+
+  private:
+    bool store(const std::string& path, const std::string& bytes) {
         if (std::find(readOnly.begin(), readOnly.end(), path) != readOnly.end()) {
             return false;
         }
-        files[path] = std::string(bytes);
+        files[path] = bytes;
         return true;
     }
-    void remove(const std::string& path) override { files.erase(path); }
-    bool update(const std::string& path, const Change& change) override {
-        const FileRead file = read(path);
-        const auto changed = change(file);
-        return changed && (*changed == file.bytes || write(path, *changed));
+    void end(std::function<bool()> work, Then<bool> done) {
+        if (later) {
+            waiting.push_back([work, done] { done(work()); });
+        } else {
+            done(work());
+        }
     }
-
-    std::string& settings() { return files[folder + "/Tech/zelFLIGHTAB.ini"]; }
 };
 
 /// Serves replies by URL; an unknown URL is refused like a closed port.
@@ -152,6 +210,18 @@ class FakeClock : public Clock {
 inline const Symbols Dot{".", ","};
 inline const Symbols Comma{",", "."};
 
+/// A write that ends before it returns (as on the desktop): whether it did.
+inline bool writeNow(Storage& storage, const std::string& path, std::string_view bytes) {
+    bool written = false;
+    storage.write(path, bytes, [&written](bool done) { written = done; });
+    return written;
+}
+inline bool updateNow(Storage& storage, const std::string& path, const Storage::Change& change) {
+    bool stored = false;
+    storage.update(path, change, [&stored](bool done) { stored = done; });
+    return stored;
+}
+
 /// Every platform piece but the dialogs, fake.
 struct FakeMachine {
     FakeRegional regional;
@@ -171,32 +241,43 @@ struct Calculator : FakeMachine {
     explicit Calculator(const Symbols& symbols = Dot, int page = 0,
                         const PageCatalogue& pages = pageCatalogue())
         : menu(platform, pages) {
+        ui.answer = [this](int request, const Answer& given) { menu.answer(request, given); };
         regional.value = symbols;
-        menu.Form_Load();
-        menu.Form_Activate();
+        menu.start();
+        menu.activate();
         if (page != 0) {
-            menu.LabMenu_Click(page);
+            menu.openPage(page);
         }
     }
     void type(std::string_view text) {
         for (char c : text) {
-            menu.Form_KeyPress(static_cast<unsigned char>(c));
+            menu.type(static_cast<unsigned char>(c));
         }
     }
     /// Types a value and clicks its row.
     void enter(int row, std::string_view text) {
         type(text);
-        menu.LabValue_Click(row);
+        menu.clickRow(row);
     }
-    const std::string& tag(int row) const { return menu.row(row).tag; }
-    const std::string& caption(int row) const { return menu.row(row).caption; }
-    double value(int row) const { return textValue(tag(row), menu.symbols()); }
+    void release(Key key) { menu.keyUp({.key = key}); }
+    View view() const { return menu.view(); }
+    const RowView& shown(int row) const {
+        m_view = menu.view();
+        return m_view.rows.at(static_cast<std::size_t>(row - 1));
+    }
+    /// A row's value in full precision ("0" for none), and as drawn.
+    std::string tag(int row) const { return shown(row).full; }
+    std::string caption(int row) const { return shown(row).value; }
+    double value(int row) const { return menu.row(row).value.value_or(0); }
     std::string lastEvent() const { return ui.events.empty() ? "" : ui.events.back(); }
+
+  private:
+    mutable View m_view;
 };
 
-/// What the window stores or shows that is not a finite number ("row 3 tag
-/// inf"), or nothing when all is well. The display of a page that takes a report shows what was
-/// typed.
+/// What the window stores or shows that is not a finite number ("row 3
+/// inf"), or nothing when all is well. The display of a page that takes a
+/// report shows what was typed.
 inline std::string nonFinite(const Menu& menu) {
     auto bad = [](std::string text) {
         for (char& c : text) {
@@ -205,15 +286,16 @@ inline std::string nonFinite(const Menu& menu) {
         return text.find("inf") != std::string::npos || text.find("nan") != std::string::npos;
     };
     const ScratchPad& pad = menu.scratchPad();
-    const bool report = menu.page() != nullptr && menu.page()->isText();
+    const View view = menu.view();
     if (!std::isfinite(pad.inputValue()) || !std::isfinite(pad.accumulator()) ||
-        !std::isfinite(pad.memory()) || (!report && bad(menu.display()))) {
+        !std::isfinite(pad.memory()) || (!view.report && bad(view.display))) {
         return "the scratch pad";
     }
     for (int row = 1; row <= PageSheet::Rows; ++row) {
-        const RowCell& cell = menu.row(row);
-        if (bad(cell.tag) || bad(cell.caption)) {
-            return "row " + std::to_string(row) + ": " + cell.tag + " | " + cell.caption;
+        const RowView& shown = view.rows[static_cast<std::size_t>(row - 1)];
+        const std::optional<double> value = menu.row(row).value;
+        if ((value && !std::isfinite(*value)) || bad(shown.full) || bad(shown.value)) {
+            return "row " + std::to_string(row) + ": " + shown.full + " | " + shown.value;
         }
     }
     return {};

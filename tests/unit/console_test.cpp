@@ -24,13 +24,14 @@ TEST(Console, RejectsLinesItCannotRead) {
     const std::string pages = std::to_string(pageCatalogue().count());
     const std::string past = "page " + std::to_string(pageCatalogue().count() + 1);
     const std::pair<std::string, std::string> cases[] = {
-        {past, "page takes a number from 1 to " + pages},
+        {past, "page takes a number from 1 to " + pages + " or a page's name"},
+        {"page nowhere", "page takes a number from 1 to " + pages + " or a page's name"},
         {"row x", "row takes a number from 1 to 8"},
         {"op 6", "op takes a number from 0 to 5"},
         {"keyup f13", "keyup takes enter, escape or f1 to f12"},
         {"key delete", "key takes backspace"},
         {"answer maybe", "answer takes yes, no, cancel or text TEXT"},
-        {"show now", "show takes nothing, display, rows or row N"},
+        {"show now", "show takes nothing, display, sheet, rows or row N"},
         {"fly", "unknown command: fly"},
         {"type", "type needs the text to type"},
     };
@@ -46,23 +47,39 @@ TEST(Console, SkipsCommentsAndBlankLinesAndReadsWindowsLineEnds) {
     EXPECT_FALSE(s.session.run("").has_value());
     EXPECT_FALSE(s.session.run("page 2\r").has_value());
     EXPECT_EQ(s.session.menu().currentPage(), 2);
+    EXPECT_FALSE(s.session.run("page fuel uplift").has_value());
+    EXPECT_EQ(s.session.menu().currentPage(), 10);
 }
 
 TEST(Console, PrintsDialogsAndUsesQueuedAnswers) {
     Session s;
-    std::vector<Answer> answers;
-    auto keep = [&](const Answer& a) { answers.push_back(a); };
+    std::vector<std::pair<int, Answer>> answers;
+    s.ui.answerWith([&](int request, const Answer& a) { answers.emplace_back(request, a); });
     s.session.run("answer text MXN");
-    s.ui.ask({Request::Kind::Input, "myCurrency", "code\r"}, keep);
-    s.ui.ask({Request::Kind::Question, "Currency", "Download?"}, keep);
+    s.ui.open({.id = 1,
+               .kind = Request::Kind::Input,
+               .title = "myCurrency",
+               .paragraphs = {"code", "e.g. MXN"}});
+    s.ui.open({.id = 2,
+               .kind = Request::Kind::Question,
+               .title = "Currency",
+               .paragraphs = {"Download?"}});
     s.session.run("answer yes");
-    s.ui.ask({Request::Kind::Question, "Currency", "Download?"}, keep);
-    ASSERT_EQ(answers.size(), 3u);
-    EXPECT_EQ(answers[0].text, "MXN");
-    EXPECT_FALSE(answers[1].yes);
-    EXPECT_TRUE(answers[2].yes);
-    s.ui.message(MessageIcon::Critical, "Error", "say \"hi\" \\ there");
-    EXPECT_EQ(s.out.str(), "input \"myCurrency\" \"code\\r\" -> \"MXN\"\n"
+    s.ui.open({.id = 3,
+               .kind = Request::Kind::Question,
+               .title = "Currency",
+               .paragraphs = {"Download?"}});
+    s.ui.open({.id = 4,
+               .kind = Request::Kind::Message,
+               .icon = MessageIcon::Critical,
+               .title = "Error",
+               .paragraphs = {"say \"hi\" \\ there"}});
+    ASSERT_EQ(answers.size(), 4u);
+    EXPECT_EQ(answers[0].second.text, "MXN");
+    EXPECT_FALSE(answers[1].second.yes);
+    EXPECT_TRUE(answers[2].second.yes);
+    EXPECT_EQ(answers[3].first, 4); // a message is read, and closed
+    EXPECT_EQ(s.out.str(), "input \"myCurrency\" \"code\\r\\re.g. MXN\" -> \"MXN\"\n"
                            "question \"Currency\" \"Download?\" -> no\n"
                            "question \"Currency\" \"Download?\" -> yes\n"
                            "message critical \"Error\" \"say \\\"hi\\\" \\\\ there\"\n");
@@ -115,6 +132,7 @@ TEST(Convert, ExplainsWhatItCannotDo) {
     const std::tuple<std::string, std::string, std::string, std::string> cases[] = {
         {"nowhere", "1", "1", "unknown page: nowhere" + range},
         {past, "1", "1", "unknown page: " + past + range},
+        {"1a", "1", "1", "unknown page: 1a" + range},
         {"wind", "°", "90", "row ° is ambiguous on Wind: give its number"},
         {"angle", "7", "1", "row 7 is not used on Angle"},
         {"weight", "stone", "1", "no row stone on Weight"},

@@ -43,7 +43,7 @@ TEST(CurrencyPage, ConvertsWithTheStoredRatesOnEitherDecimalSymbol) {
     for (const auto& [symbols, usd, jpy] :
          {std::tuple{Dot, "107.05", "17,194.00"}, std::tuple{Comma, "107,05", "17.194,00"}}) {
         CurrencyPage page(0, "myCurrCode=XXX\n", "ecb", symbols);
-        page.menu.LabMenu_Click(page::Currency);
+        page.menu.openPage(page::Currency);
         page.enter(3, "100");
         EXPECT_EQ(page.caption(7), usd);
         EXPECT_EQ(page.caption(5), jpy);
@@ -55,7 +55,7 @@ TEST(CurrencyPage, ConvertsWithTheStoredRatesOnEitherDecimalSymbol) {
 TEST(CurrencyPage, AsksToDownloadFromTheEighthDay) {
     for (const auto& [age, asks] : {std::pair{7, false}, std::pair{8, true}}) {
         CurrencyPage page(age);
-        page.menu.LabMenu_Click(page::Currency);
+        page.menu.openPage(page::Currency);
         EXPECT_EQ(page.saw("question Download recent currency rates ?"), asks) << age;
     }
 }
@@ -68,11 +68,11 @@ TEST(CurrencyPage, ShowsRowEightOnlyForAThreeCharacterCode) {
     };
     for (const auto& [own, unit] : cases) {
         CurrencyPage page(0, own);
-        page.menu.LabMenu_Click(page::Currency);
+        page.menu.openPage(page::Currency);
         EXPECT_EQ(page.menu.row(8).unit, std::string(unit)) << own;
     }
     CurrencyPage page(0, cases[2].first);
-    page.menu.LabMenu_Click(page::Currency);
+    page.menu.openPage(page::Currency);
     page.enter(3, "10");
     EXPECT_EQ(page.caption(8), "195.65");
 }
@@ -94,9 +94,9 @@ TEST(CurrencyPage, SetNamesTheOwnCurrency) {
     };
     for (const auto& [name, answers, storedName, code, unit] : cases) {
         CurrencyPage page;
-        page.menu.LabMenu_Click(page::Currency);
+        page.menu.openPage(page::Currency);
         page.ui.inputs = answers;
-        page.menu.LabMEM_Click(1);
+        page.menu.pressMemory(MemoryKey::Add);
         EXPECT_EQ(page.ini("myCurrName"), storedName) << name;
         EXPECT_EQ(page.ini("myCurrCode"), code) << name;
         EXPECT_EQ(page.menu.row(8).unit, unit) << name;
@@ -110,9 +110,9 @@ TEST(CurrencyPage, NoDownloadWhenOfflineOrDeclined) {
     for (const bool online : {false, true}) {
         CurrencyPage page;
         page.network.online = online;
-        page.menu.LabMenu_Click(page::Currency);
+        page.menu.openPage(page::Currency);
         const std::string before = page.storage.settings();
-        page.menu.LabMEM_Click(0); // unanswered: No
+        page.menu.pressMemory(MemoryKey::Recall); // unanswered: No
         EXPECT_EQ(page.storage.settings(), before);
         EXPECT_TRUE(page.network.requested.empty());
         EXPECT_EQ(page.saw("information zelFLIGHTAB: Internet connection is required to update "
@@ -123,18 +123,18 @@ TEST(CurrencyPage, NoDownloadWhenOfflineOrDeclined) {
 
 TEST(CurrencyPage, TakesNoActionWhileDownloading) {
     CurrencyPage page;
-    page.menu.LabMenu_Click(page::Currency);
+    page.menu.openPage(page::Currency);
     page.serveFeed();
     page.ui.answers = {true, true};
     page.network.during = [&] {
-        page.menu.LabMEM_Click(0); // a second "Rates"
-        page.menu.LabMenu_Click(page::Weight);
+        page.menu.pressMemory(MemoryKey::Recall); // a second "Rates"
+        page.menu.openPage(page::Weight);
         page.type("5");
     };
-    page.menu.LabMEM_Click(0);
+    page.menu.pressMemory(MemoryKey::Recall);
     EXPECT_EQ(page.network.requested.size(), 1u);
     EXPECT_EQ(page.menu.currentPage(), 18);
-    EXPECT_EQ(page.menu.display(), "0.");
+    EXPECT_EQ(page.menu.view().display, "0.");
 }
 
 TEST(CurrencyPage, ATypedCodeStaysInTheQueryAndTheTechFolder) {
@@ -143,10 +143,10 @@ TEST(CurrencyPage, ATypedCodeStaysInTheQueryAndTheTechFolder) {
     page.storage.files.clear();
     page.storage.folder = "/"; // the program at the root of its drive
     page.storage.files["/Tech/zelFLIGHTAB.ini"] = settings;
-    page.menu.LabMenu_Click(page::Currency);
+    page.menu.openPage(page::Currency);
     page.ui.inputs = {"Odd", "./&"};
     page.ui.answers = {true};
-    page.menu.LabMEM_Click(1);
+    page.menu.pressMemory(MemoryKey::Add);
     EXPECT_EQ(page.network.requested.back(),
               std::string(ConverterUrl) + "?a=1&from=EUR&to=.%2F%26");
     EXPECT_EQ(profile::read(page.storage.files["/Tech/zelFLIGHTAB.ini"], "Rates", "myCurrCode"),
@@ -162,9 +162,9 @@ TEST(CurrencyPage, SaysWhatItCouldNotSaveAndLeavesTheFileAlone) {
         const std::string path = "/pilot/Tech/zelFLIGHTAB.ini";
         (readable ? page.storage.readOnly : page.storage.unreadable).push_back(path);
         const std::string before = page.storage.settings();
-        page.menu.LabMenu_Click(page::Currency);
+        page.menu.openPage(page::Currency);
         page.ui.inputs = {"Mexican Peso", "MXN"};
-        page.menu.LabMEM_Click(1);
+        page.menu.pressMemory(MemoryKey::Add);
         EXPECT_EQ(page.storage.settings(), before);
         EXPECT_EQ(std::count_if(page.ui.events.begin(), page.ui.events.end(),
                                 [](const std::string& e) {
@@ -185,8 +185,8 @@ TEST(CurrencyPage, TheInfoKeyNamesTheSourceAndTheDateOfTheRates) {
     for (const auto& [source, from, rates] : cases) {
         CurrencyPage page(46348 - 45471, "myCurrCode=XXX\n", source);
         page.ui.answers = {false};
-        page.menu.LabMenu_Click(page::Currency);
-        page.menu.LabMEM_Click(2);
+        page.menu.openPage(page::Currency);
+        page.menu.pressMemory(MemoryKey::Subtract);
         EXPECT_EQ(page.lastEvent(), "information Currency: Currency Rates are retrieved from " +
                                         std::string(from) +
                                         ".\r\rPress the Rates button to download the latest "
@@ -196,11 +196,11 @@ TEST(CurrencyPage, TheInfoKeyNamesTheSourceAndTheDateOfTheRates) {
     CurrencyPage none;
     none.storage.settings() = "[Rates]\nEUR=1\n";
     none.ui.answers = {false};
-    none.menu.LabMenu_Click(page::Currency);
-    none.menu.LabMEM_Click(2);
+    none.menu.openPage(page::Currency);
+    none.menu.pressMemory(MemoryKey::Subtract);
     EXPECT_TRUE(none.lastEvent().ends_with("\r\rNo rates stored yet"));
     none.storage.settings() = "[Rates]\nEUR=1\nDate=2958466\n"; // past 31 December 9999
-    none.menu.LabMEM_Click(2);
+    none.menu.pressMemory(MemoryKey::Subtract);
     EXPECT_TRUE(none.lastEvent().ends_with("\r\rNo rates stored yet"));
 }
 
@@ -208,7 +208,7 @@ TEST(CurrencyPage, AMissingRateIsUnknownAndNeverOneToOne) {
     // Mexican Peso is named, but no rate was ever downloaded; the yen's is 0.
     CurrencyPage page(0, "myCurrName=Mexican Peso\nmyCurrCode=MXN\n");
     page.storage.settings().replace(page.storage.settings().find("JPY=171.94"), 10, "JPY=0");
-    page.menu.LabMenu_Click(page::Currency);
+    page.menu.openPage(page::Currency);
     page.enter(3, "100");
     EXPECT_EQ(page.caption(7), "107.05");
     EXPECT_EQ(page.caption(8), "");

@@ -130,18 +130,11 @@ TEST(RatePages, KeepsTypedCodesInsideTheirPlace) {
     EXPECT_EQ(daySerial(std::chrono::year{2024} / 6 / 28), 45471);
 }
 
-TEST(ModCurrency, NormalizesPathsAndReadsNumbers) {
-    EXPECT_EQ(ModCurrency::NormalizePath("  "), "");
-    EXPECT_EQ(ModCurrency::NormalizePath("C:\\"), "C:");
-    EXPECT_EQ(ModCurrency::NormalizePath("/"), "");
-    EXPECT_EQ(ModCurrency::NormalizePath("/opt/zel"), "/opt/zel");
-    const std::tuple<std::optional<std::string_view>, Symbols, double> numbers[] = {
-        {"1.2345", Dot, 1.2345}, {"1,234", Dot, 1},      {"1,2345", Comma, 1.2345}, {"", Dot, 0},
-        {"rate", Comma, 0},      {std::nullopt, Dot, 0},
-    };
-    for (const auto& [text, symbols, value] : numbers) {
-        EXPECT_DOUBLE_EQ(ModCurrency::ToNumber(text, symbols), value) << text.value_or("none");
-    }
+TEST(Settings, LiveInTheTechFolderBelowTheProgramFolder) {
+    EXPECT_EQ(settingsPath("/opt/zel"), "/opt/zel/Tech/zelFLIGHTAB.ini");
+    EXPECT_EQ(settingsPath("/opt/zel/"), "/opt/zel/Tech/zelFLIGHTAB.ini");
+    EXPECT_EQ(techPath("C:\\", "rate_ECB.xml"), "C:/Tech/rate_ECB.xml");
+    EXPECT_EQ(techPath("  ", "rate_ECB.xml"), "/Tech/rate_ECB.xml");
 }
 
 } // namespace

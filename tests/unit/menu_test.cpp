@@ -11,14 +11,14 @@ namespace {
 TEST(Window, StartsOnTheMenuFace) {
     Calculator calc;
     EXPECT_EQ(calc.menu.face(), Face::Menu);
-    EXPECT_EQ(calc.menu.title(), "zelFLIGHTAB");
-    EXPECT_EQ(calc.menu.display(), "0.");
-    EXPECT_EQ(calc.menu.digitsCaption(), "0.00");
+    EXPECT_EQ(calc.menu.view().title, "zelFLIGHTAB");
+    EXPECT_EQ(calc.menu.view().display, "0.");
+    EXPECT_EQ(calc.menu.view().digits, "0.00");
     EXPECT_TRUE(calc.ui.events.empty());
 
     Calculator comma(Comma);
-    EXPECT_EQ(comma.menu.display(), "0,");
-    EXPECT_EQ(comma.menu.digitsCaption(), "0,00");
+    EXPECT_EQ(comma.menu.view().display, "0,");
+    EXPECT_EQ(comma.menu.view().digits, "0,00");
 }
 
 TEST(Window, WarnsOnEveryActivationWhileTheSymbolsClash) {
@@ -29,10 +29,10 @@ TEST(Window, WarnsOnEveryActivationWhileTheSymbolsClash) {
         "1,013,25)\r\rThis causes calculations";
     ASSERT_EQ(calc.ui.events.size(), 1u);
     EXPECT_EQ(calc.ui.events[0].substr(0, expected.size()), expected);
-    calc.menu.Form_Activate();
+    calc.menu.activate();
     EXPECT_EQ(calc.ui.events.size(), 2u);
     calc.regional.value = Comma;
-    calc.menu.Form_Activate();
+    calc.menu.activate();
     EXPECT_EQ(calc.ui.events.size(), 2u);
 }
 
@@ -41,47 +41,50 @@ TEST(Window, FunctionKeysOpenPagesFromTheMenuFace) {
     const int pages[] = {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 14, 17};
     for (int f = 1; f <= 12; ++f) {
         Calculator calc;
-        calc.menu.Form_KeyUp(key::F1 + f - 1);
+        calc.release(*functionKey(f));
         EXPECT_EQ(calc.menu.currentPage(), pages[f - 1]) << "F" << f;
         EXPECT_EQ(calc.menu.face(), Face::Page);
     }
-    EXPECT_EQ(pageCatalogue().page(18).keyCaption, "F12"); // drawn on Currency, opens Wind Comp
-    EXPECT_EQ(pageCatalogue().page(17).keyCaption, "");
+    // The key drawn on a button is the key that opens its page.
+    Calculator calc;
+    const View view = calc.view();
+    EXPECT_EQ(view.pages[17 - 1].key, "F12"); // Wind Comp
+    EXPECT_EQ(view.pages[18 - 1].key, "");    // Currency has none
 }
 
 TEST(Window, EscapeEndsOnTheMenuAndClearsOnAPage) {
     Calculator calc(Dot, page::Weight);
     calc.enter(1, "5");
-    calc.menu.Form_KeyUp(key::Escape);
+    calc.menu.keyUp({.key = Key::Escape});
     EXPECT_EQ(calc.tag(1), "0");
     EXPECT_TRUE(calc.ui.events.empty());
-    calc.menu.LabelMenu_Click();
-    calc.menu.Form_KeyUp(key::Escape);
+    calc.menu.goBack();
+    calc.menu.keyUp({.key = Key::Escape});
     EXPECT_EQ(calc.lastEvent(), "quit");
 }
 
 TEST(Window, PagesSetTheirPanelsAndMemoryKeys) {
     Calculator calc(Dot, page::Snowtam);
-    EXPECT_FALSE(calc.menu.panelsVisible());
-    EXPECT_EQ(calc.menu.display(), "");
-    calc.menu.LabMenu_Click(page::Currency);
-    EXPECT_TRUE(calc.menu.panelsVisible());
-    EXPECT_EQ(calc.menu.memoryCaption(0), "Rates");
-    EXPECT_EQ(calc.menu.memoryCaption(1), "Set");
-    EXPECT_EQ(calc.menu.memoryCaption(2), "i");
-    calc.menu.LabMenu_Click(page::Weight);
-    EXPECT_EQ(calc.menu.memoryCaption(0), "MRC");
+    EXPECT_FALSE(calc.menu.view().panels);
+    EXPECT_EQ(calc.menu.view().display, "");
+    calc.menu.openPage(page::Currency);
+    EXPECT_TRUE(calc.menu.view().panels);
+    EXPECT_EQ(calc.menu.view().memory[0].caption, "Rates");
+    EXPECT_EQ(calc.menu.view().memory[1].caption, "Set");
+    EXPECT_EQ(calc.menu.view().memory[2].caption, "i");
+    calc.menu.openPage(page::Weight);
+    EXPECT_EQ(calc.menu.view().memory[0].caption, "MRC");
 }
 
 TEST(Window, ReopeningAPageBlanksItAndBackToMenuKeepsIt) {
     Calculator calc(Dot, page::Weight);
     calc.enter(2, "165");
     calc.type("5");
-    calc.menu.LabelMenu_Click();
+    calc.menu.goBack();
     EXPECT_EQ(calc.caption(1), "74.83");
-    calc.menu.LabValue_Click(1); // no row is clicked on the menu face
+    calc.menu.clickRow(1); // no row is clicked on the menu face
     EXPECT_EQ(calc.caption(1), "74.83");
-    calc.menu.LabMenu_Click(page::Weight);
+    calc.menu.openPage(page::Weight);
     for (int row = 1; row <= 8; ++row) {
         EXPECT_EQ(calc.tag(row), "0");
         EXPECT_EQ(calc.caption(row), "");
@@ -99,15 +102,15 @@ TEST(InputRow, ClickTakesTheEntryOrSelectsTheRow) {
     Calculator calc(Dot, page::Weight);
     calc.enter(1, "12");
     EXPECT_TRUE(calc.menu.row(1).input);
-    EXPECT_EQ(calc.menu.display(), "0.");
+    EXPECT_EQ(calc.menu.view().display, "0.");
     // Typing what the row already holds only selects it.
     calc.enter(1, "12");
     EXPECT_EQ(calc.menu.scratchPad().inputText(), "12");
-    EXPECT_EQ(calc.menu.display(), "12.");
+    EXPECT_EQ(calc.menu.view().display, "12.");
     // A zero entry selects a row and loads its value.
-    calc.menu.LabC_Click();
+    calc.menu.clear();
     calc.enter(1, "5");
-    calc.menu.LabValue_Click(2);
+    calc.menu.clickRow(2);
     EXPECT_TRUE(calc.menu.row(2).input);
     EXPECT_FALSE(calc.menu.row(1).input);
     EXPECT_EQ(calc.menu.scratchPad().inputText(), "11.025");
@@ -116,8 +119,8 @@ TEST(InputRow, ClickTakesTheEntryOrSelectsTheRow) {
 TEST(InputRow, RowsWithoutAUnitDoNothing) {
     Calculator calc(Dot, page::Angle);
     calc.type("5+3");
-    calc.menu.LabValue_Click(7);
-    EXPECT_EQ(calc.menu.scratchPad().pendingOperator(), 1);
+    calc.menu.clickRow(7);
+    EXPECT_EQ(calc.menu.scratchPad().pendingOperator(), Operator::Add);
     EXPECT_EQ(calc.tag(7), "0");
 }
 
@@ -127,8 +130,8 @@ TEST(RowRendering, DigitsKeyCyclesAndRerendersEveryRow) {
     const std::pair<const char*, const char*> cycle[] = {
         {"0....", "35.27396584"}, {"0", "35"}, {"0.00", "35.27"}};
     for (const auto& [caption, ounces] : cycle) {
-        calc.menu.LabDEC_Click();
-        EXPECT_EQ(calc.menu.digitsCaption(), caption);
+        calc.menu.pressDigits();
+        EXPECT_EQ(calc.menu.view().digits, caption);
         EXPECT_EQ(calc.caption(6), ounces) << caption;
     }
 }
@@ -139,39 +142,36 @@ TEST(RowRendering, TinyValuesRoundAndLongCaptionsAreSmall) {
     EXPECT_EQ(calc.caption(3), "0.00"); // a real 0.000001 still shows its rounding
     calc.enter(1, "123456");
     EXPECT_EQ(calc.caption(8), "123,456,000,000.00"); // 18 characters
-    EXPECT_TRUE(calc.menu.row(8).compact);
-    EXPECT_FALSE(calc.menu.row(1).compact);
+    EXPECT_EQ(calc.shown(8).emphasis, emphasis::SmallRow);
+    EXPECT_EQ(calc.shown(1).emphasis, emphasis::Row);
 }
 
-// A page of the kind where a typed zero is a value: the converter doubles the
-// entry into the other of rows 1 and 2; row 3 is never written.
+// A page whose converter doubles the entry into the other of rows 1 and 2;
+// row 3 is never written.
 Report doubleIntoTheOtherRow(PageSheet& page, double x, int& row) {
     page.setValue(row, x);
     page.setValue(3 - row, 2 * x);
     return {};
 }
 
-TEST(InputRow, ATypedZeroIsAValueWhereThePageSaysSo) {
+TEST(InputRow, ATypedZeroIsAValueOnEveryPage) {
     struct Case {
         const char* name;
-        bool zeroIsValue;
         const char* typed;
         std::array<const char*, 3> captions;
+        const char* display;
     };
     const Case cases[] = {
-        {"a typed 0 is stored and shown", true, "0", {"0.00", "0.00", ""}},
-        {"a typed 5 is stored as everywhere", true, "5", {"5.00", "10.00", ""}},
-        {"nothing typed only selects the row", true, "", {"", "", ""}},
-        {"elsewhere a typed 0 only selects", false, "0", {"", "", ""}},
-        {"elsewhere a typed 5 is stored", false, "5", {"5.00", "10.00", ""}},
+        {"a typed 0 is stored and shown", "0", {"0.00", "0.00", ""}, "0."},
+        {"a typed 5 is stored", "5", {"5.00", "10.00", ""}, "0."},
+        {"nothing typed only selects the row", "", {"", "", ""}, "0."},
+        {"a typed -0.5 is stored", "-0.5", {"-0.50", "-1.00", ""}, "0."},
     };
+    const PageTable table{
+        .name = "Test", .rows = {{{"a"}, {"b"}, {"c"}}}, .convert = doubleIntoTheOtherRow};
+    const std::array<const PageTable*, 1> list{&table};
+    const PageCatalogue pages{list};
     for (const Case& c : cases) {
-        std::array<PageTable, 1> table{{{.number = 1,
-                                         .name = "Test",
-                                         .rows = {{{"a"}, {"b"}, {"c"}}},
-                                         .convert = doubleIntoTheOtherRow,
-                                         .zeroIsValue = c.zeroIsValue}}};
-        const PageCatalogue pages{table};
         Calculator calc(Dot, 1, pages);
         calc.enter(1, c.typed);
         for (int row = 1; row <= 3; ++row) {
@@ -179,7 +179,15 @@ TEST(InputRow, ATypedZeroIsAValueWhereThePageSaysSo) {
                 << c.name << ", row " << row;
         }
         EXPECT_TRUE(calc.menu.row(1).input) << c.name;
+        EXPECT_EQ(calc.view().display, c.display) << c.name;
     }
+    // A row click with nothing typed loads the row's value, 0 too.
+    Calculator calc(Dot, 1, pages);
+    calc.enter(1, "0");
+    calc.menu.clickRow(2);
+    EXPECT_TRUE(calc.menu.row(2).input);
+    EXPECT_EQ(calc.caption(2), "0.00");
+    EXPECT_FALSE(calc.menu.scratchPad().typed());
 }
 
 TEST(Clipboard, PastesANumberAsTyped) {
@@ -207,16 +215,47 @@ TEST(Clipboard, PastesANumberAsTyped) {
     for (const auto& [name, symbols, text, shown] : cases) {
         Calculator calc(symbols, page::Weight);
         calc.type("5"); // replaced by a number, kept when the paste is refused
-        calc.menu.Form_Paste(text);
+        calc.menu.paste(text);
         if (std::string_view(shown).find(' ') != std::string_view::npos ||
             shown == std::string("beep")) {
             EXPECT_EQ(calc.lastEvent(), shown) << name;
-            EXPECT_EQ(calc.menu.display(), symbols.decimal == "." ? "5." : "5,") << name;
+            EXPECT_EQ(calc.menu.view().display, symbols.decimal == "." ? "5." : "5,") << name;
             continue;
         }
-        EXPECT_EQ(std::string(shown) == "beep" ? calc.lastEvent() : calc.menu.display(), shown)
+        EXPECT_EQ(std::string(shown) == "beep" ? calc.lastEvent() : calc.menu.view().display, shown)
             << name;
     }
+}
+
+TEST(Report, AFieldsTextIsTakenWholeAsItsKeysWouldTypeIt) {
+    Calculator calc(Dot, page::RwyCondition);
+    // A screen's keyboard that composes words sends the word again and again.
+    for (const char* composing : {"r", "r2", "r24", "r24l/290140 r06/451295"}) {
+        calc.menu.writeReport(composing);
+    }
+    EXPECT_EQ(calc.view().display, "R24L/290140 R06/451295");
+    calc.menu.enterReport("r24l/290140 r06/451295");
+    EXPECT_EQ(calc.caption(1), "24L (1 of 2)");
+    calc.menu.enterReport("R24L/290140 R06/451295"); // the same report: its next runway
+    EXPECT_EQ(calc.caption(1), "06 (2 of 2)");
+    calc.menu.openPage(page::Snowtam);
+    calc.menu.enterReport("8829/0140x"); // figures and slashes, eight of them
+    EXPECT_EQ(calc.view().display, "8829/014");
+    EXPECT_EQ(calc.ui.events, (std::vector<std::string>{"beep"}));
+}
+
+TEST(Hint, HoursAndMinutesRowsSayHowTheyAreTyped) {
+    Calculator calc(Comma, page::Endurance);
+    EXPECT_EQ(calc.shown(7).hint, "1,30 = 1:30");
+    EXPECT_EQ(calc.shown(8).hint, "");
+    EXPECT_EQ(calc.view().hint, "");
+    calc.menu.clickRow(7); // the input row now
+    EXPECT_EQ(calc.view().hint, "1,30 = 1:30");
+    calc.enter(7, "1,60");
+    EXPECT_EQ(calc.lastEvent(), "beep");
+    EXPECT_EQ(calc.view().hint, "1,60 refused: minutes under 60");
+    calc.type("1");
+    EXPECT_EQ(calc.view().hint, "1,30 = 1:30");
 }
 
 TEST(Clipboard, CopiesTheDisplayAndThePage) {

@@ -48,6 +48,7 @@ TEST(ExponentText, RoundsToTheDigitsThatFit) {
         {1e26, 15, "1E+26"},
         {-1.5e-7, 3, "-1,5E-07"},
         {123, 1, "1E+02"},
+        {5, 15, "5E+00"},
     };
     for (const auto& [value, digits, text] : cases) {
         EXPECT_EQ(exponentText(value, digits, Comma), text) << value;
@@ -114,7 +115,7 @@ struct ReadCase {
     double comma;
 };
 
-TEST(CGetal, ReadsNumbersAndZeroForAnythingElse) {
+TEST(ReadNumber, ReadsNumbersAndZeroForAnythingElse) {
     const ReadCase cases[] = {
         {"empty", "", 0, 0},
         {"letters", "abc", 0, 0},
@@ -131,17 +132,17 @@ TEST(CGetal, ReadsNumbersAndZeroForAnythingElse) {
         {"infinity word", "inf", 0, 0},
     };
     for (const auto& c : cases) {
-        EXPECT_EQ(CGetal(c.text, Dot), c.dot) << c.name;
-        EXPECT_EQ(CGetal(c.text, Comma), c.comma) << c.name;
+        EXPECT_EQ(readNumber(c.text, Dot), c.dot) << c.name;
+        EXPECT_EQ(readNumber(c.text, Comma), c.comma) << c.name;
     }
 }
 
-TEST(CGetal, ReadsGroupedTextTheWayEachSystemDoes) {
+TEST(ReadNumber, ReadsGroupedTextTheWayEachSystemDoes) {
     // Where "." is the decimal symbol the text is read from its start and stops
     // at the grouping symbol; elsewhere grouping is understood.
-    EXPECT_EQ(CGetal("1,234.5", Dot), 1);
-    EXPECT_EQ(CGetal("1.234,5", Comma), 1234.5);
-    EXPECT_EQ(textValue("1,234.5", Dot), 1234.5);
+    EXPECT_EQ(readNumber("1,234.5", Dot), 1);
+    EXPECT_EQ(readNumber("1.234,5", Comma), 1234.5);
+    EXPECT_EQ(readRegional("1,234.5", Dot), 1234.5);
 }
 
 TEST(GeneralText, RoundTripsThroughReading) {
@@ -149,9 +150,15 @@ TEST(GeneralText, RoundTripsThroughReading) {
     for (double v : values) {
         for (const Symbols& s : {Dot, Comma}) {
             const std::string text = generalText(v, s);
-            EXPECT_EQ(generalText(textValue(text, s), s), text) << text;
+            EXPECT_EQ(generalText(readRegional(text, s).value_or(0), s), text) << text;
+            // A value kept to 15 digits is the number its text reads back as,
+            // in either regional form.
+            EXPECT_EQ(roundSignificant(v, 15), readRegional(text, s)) << text;
         }
     }
+    EXPECT_EQ(roundSignificant(101.98039, 7), 101.9804);
+    EXPECT_EQ(roundSignificant(-0.000123456789, 3), -0.000123);
+    EXPECT_EQ(roundSignificant(0, 15), 0);
 }
 
 } // namespace

@@ -122,7 +122,9 @@ TEST(Endurance, SolvesQuantityFlowAndTime) {
         {"10 USG with 2 h give the flow through the litre rows", Endurance, "2@7 10@5",
          "3=37.8541178 | 4=18.9270589 | 6=5 | 8=120"},
         {"no pair and no endurance leave it empty", Endurance, "600@1 30@4", "7=0 | 8=0 | 1=600"},
-        {"minutes are formatted, not rounded", Endurance, "119.994@8", "7:1:60"},
+        {"minutes are rounded, then split", Endurance, "119.994@8", "7:2:00"},
+        {"1,999 kg at 1,000 kg/hr is 2:00", Endurance, "1999@1 1000@2", "7:2:00"},
+        {"199 kg at 200 kg/hr is 1:00", Endurance, "199@1 200@2", "7:1:00"},
         {"no negative endurance", Endurance, "-1@7", "7=0 | !beep"},
     };
     check(cases);
@@ -138,11 +140,11 @@ TEST(FuelRange, SolvesRangeInTheOrderOfEntry) {
         {"a range with a litre flow gives the quantity", FuelRange, "30@4 100@7 300@8",
          "3=90 | 5=23.7754847373566 | 1=0 | 2=0"},
         {"no negative range", FuelRange, "-1@8", "8=0 | !beep"},
-        // The range is written before the fault and kept, but nothing is drawn
-        // and the entry stays.
+        // A calculation that meets a fault leaves every row as it was, and
+        // the entry stays.
         {"half a knot", FuelRange, "600@1 200@2 0.5@7", "8=1.5"},
         {"no ground speed: the division by zero stops the click", FuelRange, "30@4 300@8",
-         "8=300 | 8: | >4 | #300. | !critical zelFLIGHTAB: Division by zero"},
+         "8=0 | 8: | >4 | #300. | !critical zelFLIGHTAB: Division by zero"},
     };
     check(cases);
 }
@@ -179,60 +181,86 @@ TEST(MachAS, ReproducesTheReferenceValues) {
     check(cases);
 }
 
-TEST(WindPage, SolvesTheTriangleAndShowsSidesAndComponents) {
+TEST(WindPage, SolvesTheTriangleFromTheNewestGivens) {
+    // Rows: 1 heading, 2 TAS, 3 course, 4 ground speed, 5 wind direction,
+    // 6 wind speed, 7 drift, 8 wind component.
+    static const std::string noHeading =
+        "!exclamation Wind: Wind stronger than TAS: no heading holds this course";
+    static const std::string against = "1: | 4: | 7: | " + noHeading;
+    static const std::string across = "1: | 4: | " + noHeading;
     const Scenario cases[] = {
         {"heading and wind give course and ground speed", Wind, "90@1 100@2 360@5 20@6",
-         "4=101.9804 | 1:090 | 3:101 | 5:360 | 7:R 11.31 | 8:T 1.98"},
+         "3:101 | 4:101.98 | 7:R 11.31 | 8:T 1.98"},
         {"a headwind from the right", Wind, "90@1 100@2 45@5 20@6",
-         "3=99.35353 | 4=87.01479 | 7=9.353526 | 8=-12.98521"},
-        {"the wind from the left-hand side", Wind, "90@1 100@2 80@3 110@4",
-         "5=203.5589 | 6=20.83817 | 7=-9.999998 | 7:L 10.00"},
+         "3:099 | 4:87.01 | 7:R 9.35 | 8:H 12.99"},
         {"course and wind give heading and ground speed", Wind, "90@3 100@2 360@5 20@6",
-         "1=78.46304 | 4=97.97959 | 8=-2.020409"},
-        {"the TAS follows a known ground speed", Wind, "90@3 97.9796@4 360@5 20@6",
-         "2=100 | 1=78.46304"},
-        {"the wind from heading, TAS, course and ground speed", Wind, "90@1 100@2 100@3 110@4",
-         "5=336.4411 | 6=20.83817 | 7=9.999998"},
-        {"a tailwind along the course: no drift", Wind, "90@3 100@2 270@5 20@6", "1=90 | 4=120"},
-        {"unknown results show empty", Wind, "90@1", "7=-999 | 7: | 8:"},
-        {"a wind stronger than the TAS across the course", Wind, "90@3 20@2 360@5 50@6",
-         "1=0 | 4=0"},
-        {"no wind along a track flown as planned", Wind, "90@1 100@2 90@3 100@4", "5=0 | 6=0"},
-        {"360 and 1 are directions", Wind, "360@1 1@3", "1=360 | 3=1"},
-        {"half a knot of wind is a wind", Wind, "90@1 100@2 360@5 0.5@6", "6=0.5 | 7:R 0.29"},
-        {"400 is not", Wind, "400@1",
-         "1=0 | !exclamation Wind: Invalid direction (range 1 - 360°)"},
-        {"drift is a result", Wind, "5@7", "7=-999 | !beep"},
-        {"no negative TAS", Wind, "-5@2", "2=0 | !beep"},
+         "1:078 | 4:97.98 | 7:R 11.54 | 8:H 2.02"},
+        {"heading, TAS, course and ground speed give the wind", Wind, "90@1 100@2 100@3 110@4",
+         "5:336 | 6:20.84 | 7:R 10.00 | 8:T 10.00"},
+        {"the wind from the left-hand side", Wind, "90@1 100@2 80@3 110@4", "5:204 | 7:L 10.00"},
+        {"course, ground speed and wind give heading and TAS", Wind, "90@3 97.98@4 360@5 20@6",
+         "2:100.00 | 1:078"},
+        {"a tailwind along the course: no drift", Wind, "90@3 100@2 270@5 20@6",
+         "1:090 | 4:120.00 | 7:0.00"},
+        {"calm air: the course is the heading", Wind, "45@1 100@2 0@6", "3:045 | 4:100.00"},
+        {"too little known leaves the results empty", Wind, "90@1 100@2", "3: | 4: | 7: | 8:"},
+        // What is typed last stays, and nothing keeps a value of older givens.
+        {"a new course typed is kept", Wind, "90@3 100@2 360@5 30@6 120@3",
+         "3:120 | 1:105 | 4:111.57"},
+        {"a new ground speed typed is kept", Wind, "90@1 100@2 100@3 90@4 80@4",
+         "4:80.00 | 5:057 | 6:25.36"},
+        {"before it, the wind is 036/19.33", Wind, "90@1 100@2 100@3 90@4", "5:036 | 6:19.33"},
+        {"a new wind direction keeps the course", Wind, "90@3 100@2 360@5 30@6 30@5",
+         "3:090 | 1:075 | 4:81.57"},
+        // Directions from 001 to 360, drift R or L up to 180.
+        {"a course past north", Wind, "350@1 100@2 270@5 30@6", "3:007"},
+        {"a heading before north", Wind, "10@3 100@2 270@5 30@6", "1:353"},
+        {"drift across north", Wind, "355@1 5@3", "7:R 10.00"},
+        {"a course from the air and wind vectors", Wind, "360@1 20@2 350@5 25@6", "3:137 | 4:6.34"},
+        {"a wind stronger than the TAS against the course", Wind, "360@3 20@2 360@5 25@6",
+         against.c_str()},
+        {"or across it", Wind, "90@3 20@2 360@5 50@6", across.c_str()},
+        {"400 is no direction", Wind, "400@1",
+         "1: | !exclamation Wind: Invalid direction (range 1 - 360°)"},
+        {"drift is a result", Wind, "5@7", "7: | !beep"},
+        {"no TAS of 0", Wind, "0@2", "2: | !beep"},
     };
     check(cases);
 }
 
 TEST(TrackTime, RelatesDistanceTimeAndSpeedWithTheWind) {
+    // Rows: 1 km, 2 nm, 3 time, 4 ground speed, 5 track, 6 TAS, 7 and 8 the wind.
     const Scenario cases[] = {
-        {"100 km in nautical miles", TrackTime, "100@1", "2=53.995689325417"},
+        {"100 km in nautical miles", TrackTime, "100@1", "2=53.995689325417 | 3: | 4:"},
         {"120 nm at 240 kt take half an hour", TrackTime, "120@2 240@4", "3:0:30"},
-        {"with distance and speed the time is recomputed", TrackTime, "120@2 240@4 1@3", "3=0.5"},
+        {"a time typed last is kept; the distance follows", TrackTime, "120@2 240@4 1@3",
+         "3=1 | 4:240.00 | 2:240.00"},
         {"300 nm in 1:30 is 200 kt", TrackTime, "300@2 1.30@3", "4=200"},
         {"200 kt for 1:30", TrackTime, "200@4 1.30@3", "2=300 | 1=555.5999076 | 3:1:30"},
-        {"ground speed from the wind", TrackTime, "98@2 90@5 100@6 360@7 20@8",
-         "4=97.97959 | 3:1:00"},
+        {"ground speed from the wind", TrackTime, "98@2 90@5 100@6 360@7 20@8", "4:97.98 | 3:1:00"},
+        {"a stronger wind slows the aircraft", TrackTime, "100@6 360@5 360@7 20@8 100@2 30@8",
+         "4:70.00 | 6:100.00 | 3:1:26"},
+        {"a new TAS is kept", TrackTime, "100@6 360@5 360@7 30@8 100@2 120@6",
+         "6:120.00 | 4:90.00 | 3:1:07"},
+        {"a headwind as strong as the TAS", TrackTime, "100@2 20@6 360@5 360@7 20@8",
+         "4: | 3: | !exclamation Track Time: Wind stronger than TAS: no heading holds this course"},
         {"361 is no track", TrackTime, "361@5",
-         "5=0 | !exclamation Track Time: Invalid direction (range 1 - 360°)"},
-        {"no negative ground speed", TrackTime, "-5@4", "4=0 | !beep"},
+         "5: | !exclamation Track Time: Invalid direction (range 1 - 360°)"},
+        {"no negative ground speed", TrackTime, "-5@4", "4: | !beep"},
     };
     check(cases);
 }
 
 TEST(WindComp, SplitsTheWindAlongAndAcrossTheRunway) {
     const Scenario cases[] = {
-        {"straight down the runway", WindComp, "270@1 20@2 270@3", "6:H 20.00 | 8:"},
-        {"from the right", WindComp, "360@1 20@2 270@3", "6:T 0.00 | 8:R 20.00"},
-        {"from the left", WindComp, "180@1 20@2 270@3", "6:T 0.00 | 8:L 20.00"},
-        {"from behind", WindComp, "90@1 20@2 270@3", "6:T 20.00 | 8:R 0.00"},
+        {"straight down the runway", WindComp, "270@1 20@2 270@3", "6:H 20.00 | 8:0.00"},
+        {"a calm has no component", WindComp, "270@1 0@2 300@3", "6:0.00 | 8:0.00"},
+        {"from the right", WindComp, "360@1 20@2 270@3", "6:0.00 | 8:R 20.00"},
+        {"from the left", WindComp, "180@1 20@2 270@3", "6:0.00 | 8:L 20.00"},
+        {"from behind", WindComp, "90@1 20@2 270@3", "6:T 20.00 | 8:0.00"},
         {"400 is no runway", WindComp, "400@3",
          "3=0 | !exclamation Wind Comp: Invalid direction (range 1 - 360°)"},
-        {"the components are results", WindComp, "5@6", "6=-999 | !beep"},
+        {"the components are results", WindComp, "5@6", "6=0 | !beep"},
         {"361 is no wind direction", WindComp, "361@1",
          "1=0 | !exclamation Wind Comp: Invalid direction (range 1 - 360°)"},
         {"but 400 kt is a wind velocity", WindComp, "400@2", "2=400"},
@@ -274,18 +302,18 @@ TEST(Snowtam, DecodesEachFieldByItself) {
 TEST(Snowtam, TakesEightCodeCharactersAndDrawsLongTextsSmall) {
     Calculator calc(Dot, Snowtam);
     calc.type("01a36//0000");
-    EXPECT_EQ(calc.menu.display(), "0136//00");
+    EXPECT_EQ(calc.menu.view().display, "0136//00");
     EXPECT_EQ(calc.ui.events, (std::vector<std::string>{"beep", "beep"}));
-    calc.menu.Form_KeyUp(key::Enter);
+    calc.menu.keyUp({.key = Key::Enter});
     EXPECT_EQ(calc.caption(2), "Rime - Frost < 1mm");
-    EXPECT_TRUE(calc.menu.row(2).compact);
-    EXPECT_FALSE(calc.menu.row(1).compact);
-    calc.menu.Form_KeyPress(key::Backspace);
-    calc.menu.Form_KeyUp(key::Enter);
+    EXPECT_EQ(calc.shown(2).emphasis, emphasis::SmallRow);
+    EXPECT_EQ(calc.shown(1).emphasis, emphasis::Row);
+    calc.menu.keyDown({.key = Key::Backspace});
+    calc.menu.keyUp({.key = Key::Enter});
     EXPECT_EQ(calc.lastEvent(), "exclamation Snowtam: Snowtam must be 8 digits...");
     EXPECT_EQ(calc.caption(1), "");
     for (int i = 0; i < 9; ++i) {
-        calc.menu.Form_KeyPress(key::Backspace);
+        calc.menu.keyDown({.key = Key::Backspace});
     }
     EXPECT_EQ(calc.menu.scratchPad().inputText(), "");
 }
@@ -320,7 +348,17 @@ TEST(RunwayCondition, DecodesTodaysReports) {
                                            "missing"},
         {"02170060 09L 5/5/5 100/100/100 NR/NR/NR WET/WET/WET",
          "!exclamation RWY Condition: Not a runway condition report\r\r"
-         "The assessment time must be MMDDhhmm (02170060)"},
+         "No such date and time 02170060"},
+        {"02300055 09L 5/5/5 100/100/100 NR/NR/NR WET/WET/WET",
+         "!exclamation RWY Condition: Not a runway condition report\r\r"
+         "No such date and time 02300055"},
+        {"04312355 09L 5/5/5 100/100/100 NR/NR/NR WET/WET/WET",
+         "!exclamation RWY Condition: Not a runway condition report\r\r"
+         "No such date and time 04312355"},
+        {"02172400 09L 5/5/5 100/100/100 NR/NR/NR WET/WET/WET",
+         "!exclamation RWY Condition: Not a runway condition report\r\r"
+         "No such date and time 02172400"},
+        {"02292359 09L 5/5/5 100/100/100 NR/NR/NR WET/WET/WET", "2:02-29 23:59"},
         {"R99/451295", "1:Previous Report | 2:Dry Snow | 6:12 mm | 7:0.40 - 1.00 | 8:Good"},
         {"02170055 09L 5/5/5 100/100/100 NR/NR/NR WET/WET/WET", "1:09L | 2:02-17 00:55"},
         // A report that cannot be read whole is refused, and none of it shown.
@@ -345,7 +383,7 @@ TEST(RunwayCondition, DecodesTodaysReports) {
          "Depth must be NR or 2 to 3 figures for each third (NR/NR/1)"},
         {"13170055 09L 5/5/5 100/100/100 NR/NR/NR WET/WET/WET",
          "!exclamation RWY Condition: Not a runway condition report\r\r"
-         "The assessment time must be MMDDhhmm (13170055)"},
+         "No such date and time 13170055"},
         {"02170055 is a date, 09L 5/5/3 ...", "!exclamation RWY Condition: Not a runway "
                                               "condition report\r\rCoverage must be NR, 25, "
                                               "50, 75 or 100 for each third (...)"},
@@ -356,7 +394,7 @@ TEST(RunwayCondition, DecodesTodaysReports) {
         // Typed in any case, decoded with Enter.
         Calculator calc(Dot, page::RwyCondition);
         calc.type(report);
-        calc.menu.Form_KeyUp(key::Enter);
+        calc.menu.keyUp({.key = Key::Enter});
         std::vector<std::string> told;
         std::istringstream items(expect);
         for (std::string item; std::getline(items, item, '|');) {
@@ -376,29 +414,29 @@ TEST(RunwayCondition, DecodesTodaysReports) {
 TEST(RunwayCondition, TakesAReportOfUpTo2000Characters) {
     Calculator calc(Dot, page::RwyCondition);
     calc.type("r24l/29-0140");
-    EXPECT_EQ(calc.menu.display(), "R24L/290140");
-    EXPECT_FALSE(calc.menu.panelsVisible());
+    EXPECT_EQ(calc.menu.view().display, "R24L/290140");
+    EXPECT_FALSE(calc.menu.view().panels);
     calc.type(std::string(1989, ' '));
     EXPECT_TRUE(calc.ui.events.empty());
     calc.type("x");
     EXPECT_EQ(calc.ui.events, std::vector<std::string>{"beep"});
-    calc.menu.LabValue_Click(3);
+    calc.menu.clickRow(3);
     EXPECT_EQ(calc.caption(1), "24L");
     EXPECT_EQ(calc.menu.row(2).unit, "Type of Deposit"); // the captions of the group
-    calc.menu.LabMenu_Click(page::RwyCondition);
+    calc.menu.openPage(page::RwyCondition);
     EXPECT_EQ(calc.menu.row(2).unit, "Assessed - UTC");
 }
 
 TEST(RunwayCondition, EnterShowsEachRunwayOfTheTextInTurn) {
     Calculator calc(Dot, page::RwyCondition);
-    calc.menu.Form_Paste("02170055 09L 5/5/5 100/100/100 NR/NR/NR WET/WET/WET\r\n"
-                         "02170135 27R 5/2/2 100/50/75 NR/06/06 WET/SLUSH/SLUSH 35");
+    calc.menu.paste("02170055 09L 5/5/5 100/100/100 NR/NR/NR WET/WET/WET\r\n"
+                    "02170135 27R 5/2/2 100/50/75 NR/06/06 WET/SLUSH/SLUSH 35");
     for (const char* runway : {"09L (1 of 2)", "27R width 35 m (2 of 2)", "09L (1 of 2)"}) {
-        calc.menu.Form_KeyUp(key::Enter);
+        calc.menu.keyUp({.key = Key::Enter});
         EXPECT_EQ(calc.caption(1), runway);
     }
     calc.type(" "); // a changed report starts again at its first runway
-    calc.menu.Form_KeyUp(key::Enter);
+    calc.menu.keyUp({.key = Key::Enter});
     EXPECT_EQ(calc.caption(1), "09L (1 of 2)");
 }
 
@@ -417,13 +455,13 @@ TEST(Paste, OnARunwayPageReplacesTheReportAndTheSnowtamPageTakesOneGroupOnly) {
     };
     for (const auto& [number, text, entry, told] : cases) {
         Calculator calc(Dot, number);
-        calc.menu.Form_Paste(text);
+        calc.menu.paste(text);
         EXPECT_EQ(calc.menu.scratchPad().inputText(), entry) << text;
         EXPECT_EQ(calc.lastEvent(), told) << text;
     }
     Calculator calc(Dot, page::RwyCondition);
     calc.type("09L 5/5/5 100/100/100 NR/NR/NR WET/WET/SLUSH");
-    calc.menu.Form_Paste("R24L/290140");
+    calc.menu.paste("R24L/290140");
     EXPECT_EQ(calc.menu.scratchPad().inputText(), "R24L/290140");
 }
 

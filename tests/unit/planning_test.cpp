@@ -2,13 +2,43 @@
 // SPDX-FileCopyrightText: 2026 zelFLIGHTAB developers
 // The planning pages, where a typed zero is a value and the newest givens win.
 // See scenario.h for how a case reads.
+#include "flight/atmosphere.h"
 #include "scenario.h"
+
+#include <cmath>
+#include <regex>
 
 namespace zel::test {
 namespace {
 
 using page::Altitude, page::Descent, page::Turn, page::FuelPlan, page::CloudBase,
     page::TrueAltitude, page::Holding, page::Sun;
+
+TEST(Atmosphere, MatchesTheStandardAtmosphereTables) {
+    // The ICAO (1976 US) standard atmosphere: pressure and density over their
+    // sea-level values (101,325 Pa, 1.225 kg/m3) at each layer's heights.
+    struct Level {
+        double metres;
+        double kelvin;
+        double pascals;
+        double density;
+    };
+    const Level levels[] = {
+        {0, 288.15, 101325, 1.225},         {5000, 255.65, 54019.9, 0.736116},
+        {11000, 216.65, 22632.1, 0.363918}, {15000, 216.65, 12044.6, 0.193674},
+        {20000, 216.65, 5474.89, 0.088035}, {25000, 221.65, 2511.02, 0.039466},
+    };
+    for (const Level& level : levels) {
+        const double feet = units::metresToFeet(level.metres);
+        EXPECT_NEAR(atmosphere::isaKelvin(feet), level.kelvin, 1e-9) << level.metres;
+        const double delta = atmosphere::pressureRatio(feet);
+        EXPECT_NEAR(delta, level.pascals / 101325, 2e-6) << level.metres;
+        const double sigma = atmosphere::densityRatio(feet);
+        EXPECT_NEAR(sigma, level.density / 1.225, 2e-6) << level.metres;
+        EXPECT_NEAR(atmosphere::pressureAltitude(delta), feet, 1e-6) << level.metres;
+        EXPECT_NEAR(atmosphere::densityAltitude(sigma), feet, 1e-6) << level.metres;
+    }
+}
 
 TEST(AltitudePage, GivesPressureAndDensityAltitude) {
     const Scenario cases[] = {
@@ -23,11 +53,17 @@ TEST(AltitudePage, GivesPressureAndDensityAltitude) {
         {"the newest of altitude and pressure altitude counts", Altitude, "5000@1 6000@4",
          "1:6,000.00"},
         {"so does the newest QNH, in either unit", Altitude, "1003@2 29.50@3", "2:998.98"},
+        {"the newest of OAT and ISA deviation counts", Altitude, "5000@4 10@6 30@5",
+         "5:30.00 | 6:24.91"},
         {"about 120 ft of density altitude per °C above standard", Altitude, "5000@4 10@6",
          "5:15.09 | 7:6,160.36"},
         {"without a temperature rows 5 to 7 stay empty", Altitude, "5000@1",
          "5: | 6: | 7: | 8:5.09"},
         {"a negative altitude is a value", Altitude, "-500@1", "4:-500.00"},
+        // A low QNH puts 36,000 ft above the tropopause, where the standard
+        // air is -56.5 °C and pressure falls exponentially.
+        {"36,000 ft at QNH 950: in the stratosphere", Altitude, "36000@1 950@2 -50@5",
+         "4:37,341.10 | 8:-56.50 | 6:6.50 | 7:37,956.14"},
         {"above 36000 ft", Altitude, "40000@1",
          "!exclamation Altitude: Invalid altitude (range -2000 - 36000 ft)"},
         {"QNH 850 hPa is the lowest", Altitude, "850@2", "2:850.00 | 3:25.10"},
@@ -42,7 +78,7 @@ TEST(AltitudePage, GivesPressureAndDensityAltitude) {
         {"61 °C", Altitude, "61@5",
          "!exclamation Altitude: Invalid temperature (range -80 - 60 °C)"},
         {"a deviation of -61 °C", Altitude, "-61@6",
-         "!exclamation Altitude: Invalid temperature (range -80 - 60 °C)"},
+         "!exclamation Altitude: Invalid temperature (range -60 - 60 °C)"},
         {"the density altitude is a result", Altitude, "5@7", "7: | !beep"},
     };
     check(cases);
@@ -70,7 +106,8 @@ TEST(DescentPage, RelatesHeightDistanceSpeedAndPath) {
     };
     check(cases);
     check({"45° is too steep", Descent, "45@6", steep});
-    check({"so is a gradient of 6076 ft/nm", Descent, "6077@7", steep});
+    check({"so is a gradient of 6077 ft/nm", Descent, "6077@7",
+           "!exclamation Descent: Invalid gradient (range 0 - 6076.12 ft/nm)"});
 }
 
 TEST(TurnPage, GivesBankRateAndRadius) {
@@ -90,7 +127,8 @@ TEST(TurnPage, GivesBankRateAndRadius) {
     };
     check(cases);
     check({"90° of bank", Turn, "90@2", bank});
-    check({"a load factor of 1 is no turn", Turn, "1@7", bank});
+    check({"a load factor of 1 is no turn", Turn, "1@7",
+           "!exclamation Turn: Invalid load factor (range above 1 g)"});
 }
 
 TEST(FuelPlanPage, AddsTripAndReserveFuel) {
@@ -150,6 +188,11 @@ TEST(TrueAltitudePage, CorrectsTheAltimeterForTheAirsTemperature) {
         {"the newest of OAT and deviation counts", TrueAltitude, "5000@1 -10@4 5@5",
          "4:10.09 | 5=5"},
         {"no temperature, no true altitude", TrueAltitude, "5000@1", "6: | 7: | 8:"},
+        // Above the tropopause the standard air stays at -56.5 °C.
+        {"FL400 in standard air: no correction", TrueAltitude, "40000@1 -56.5@4",
+         "5=0 | 6=40000 | 8=0"},
+        {"FL450 at ISA +10 over the sea", TrueAltitude, "45000@1 10@5",
+         "4:-46.50 | 6:47,077.08 | 8:2,077.08"},
         {"60,001 ft", TrueAltitude, "60001@1",
          "!exclamation True Altitude: Invalid altitude (range -2000 - 60000 ft)"},
         {"a station below -2,000 ft", TrueAltitude, "-2001@3",
@@ -213,6 +256,13 @@ TEST(SunPage, GivesSunriseSunsetAndCivilTwilightInUtc) {
         {"midnight sun in Svalbard", Sun, "78.2232@1 15.6267@2 20240621@3",
          "5:No sunrise | 6:No sunset | 8:24:00"},
         {"the equator at 0°, 0° is a place", Sun, "0@1 0@2 20240320@3", "5:06:04 | 6:18:11"},
+        // The daylight is the time the sun is up within the UTC day.
+        {"Tromsø: risen the day before, up all day", Sun, "69.65@1 18.96@2 20240517@3",
+         "5:23:08 (16 May) | 6:No sunset | 8:24:00"},
+        {"Tromsø: up from 0:00 to the sunset, and again from the next sunrise at 23:19", Sun,
+         "69.65@1 18.96@2 20240725@3", "5:No sunrise | 6:22:23 | 8:23:04"},
+        {"Sydney: up at 0:00 UTC, set, risen again", Sun, "-33.8688@1 151.2093@2 20241221@3",
+         "8:14:24"},
         {"no date: today's", Sun, "51.4779@1 0@2", "3:2026-11-22 | 5:07:29"},
         {"latitude 91°", Sun, "91@1", "!exclamation Sun: Invalid latitude (range -90 - 90°)"},
         {"longitude -181°", Sun, "-181@2",
@@ -222,6 +272,80 @@ TEST(SunPage, GivesSunriseSunsetAndCivilTwilightInUtc) {
         {"the times are results", Sun, "5@5", "!beep"},
     };
     check(cases);
+}
+
+/// A number typed as a pilot types it: no exponent, no trailing zeros.
+std::string typed(double x) {
+    std::string text = formatNumber(x, "0.##########", Dot);
+    return text.ends_with('.') ? text.substr(0, text.size() - 1) : text;
+}
+
+/// What typing `x` into a row of a fresh page tells the user: "" for nothing.
+std::string toldFor(int page, int row, double x) {
+    Calculator calc(Dot, page);
+    calc.enter(row, typed(x));
+    return calc.lastEvent();
+}
+
+/// Each row's two limits are taken (unless the range leaves them out), and
+/// a value past each gets the message, which states those limits.
+void checkRange(int page, int row, double low, double high, bool openLow, bool openHigh,
+                std::string_view message) {
+    const std::string where = std::string(pageCatalogue().page(page).name) + " row " +
+                              std::to_string(row) + ": " + std::string(message);
+    const std::string told =
+        "exclamation " + std::string(pageCatalogue().page(page).name) + ": " + std::string(message);
+    static const std::regex Stated(R"(range (above )?(-?[0-9.]+)(?: (?:-|to) (-?[0-9.]+))?)");
+    std::cmatch m;
+    ASSERT_TRUE(std::regex_search(message.data(), message.data() + message.size(), m, Stated))
+        << where;
+    EXPECT_DOUBLE_EQ(std::stod(m[2].str()), low) << where;
+    if (m[3].matched) {
+        EXPECT_NEAR(std::stod(m[3].str()), high, 0.005) << where;
+    } else {
+        EXPECT_GT(high, 1e299) << where;
+    }
+    // The limits as the message writes them, as a pilot would type them.
+    const double statedLow = std::stod(m[2].str());
+    const double statedHigh = m[3].matched ? std::stod(m[3].str()) : 1e300;
+    const bool whole = statedLow == std::trunc(statedLow) &&
+                       (statedHigh > 1e299 || statedHigh == std::trunc(statedHigh));
+    const double step = whole ? 1 : 0.01;
+    // A limit left out is refused, with the message or the bell of a sign
+    // the row never takes; one taken is neither.
+    auto refused = [&](const std::string& event) { return event == told || event == "beep"; };
+    EXPECT_EQ(refused(toldFor(page, row, statedLow)), openLow) << where << ", at " << statedLow;
+    EXPECT_TRUE(refused(toldFor(page, row, statedLow - step))) << where << ", past " << statedLow;
+    if (statedHigh < 1e299) {
+        EXPECT_EQ(refused(toldFor(page, row, statedHigh)), openHigh)
+            << where << ", at " << statedHigh;
+        EXPECT_EQ(toldFor(page, row, statedHigh + step), told) << where << ", past " << statedHigh;
+    }
+}
+
+TEST(Ranges, EveryRangeMessageStatesTheRangeItsRowTakes) {
+    // The pages of formulas declare their ranges.
+    int checked = 0;
+    for (int page = 1; page <= pageCatalogue().count(); ++page) {
+        const PageTable& table = pageCatalogue().page(page);
+        for (int row = 1; row <= PageSheet::Rows; ++row) {
+            const Range& range = table.row(row).range;
+            if (!range.message.empty()) {
+                checkRange(page, row, range.low, range.high, range.openLow, range.openHigh,
+                           range.message);
+                ++checked;
+            }
+        }
+    }
+    EXPECT_GE(checked, 20);
+    // The converters check theirs in code.
+    checkRange(Sun, 1, -90, 90, false, false, "Invalid latitude (range -90 - 90°)");
+    checkRange(Sun, 2, -180, 180, false, false, "Invalid longitude (range -180 - 180°)");
+    checkRange(Holding, 1, 0, 360, false, false, "Invalid direction (range 0 - 360°)");
+    checkRange(page::Speed, 7, 1, 12, false, false, "Invalid input (range 1 to 12)");
+    for (int row : {1, 3}) {
+        checkRange(page::WindComp, row, 1, 360, false, false, "Invalid direction (range 1 - 360°)");
+    }
 }
 
 } // namespace

@@ -65,7 +65,7 @@ inline void check(const Scenario& c) {
                     << name << ", input row " << row;
             }
         } else if (item.starts_with('#')) {
-            EXPECT_EQ(calc.menu.display(), item.substr(1)) << name;
+            EXPECT_EQ(calc.view().display, item.substr(1)) << name;
         } else if (const int row = rowOf(item, mark); row > 0) {
             EXPECT_EQ(item[mark] == '=' ? calc.tag(row) : calc.caption(row), item.substr(mark + 1))
                 << name << ", " << item;

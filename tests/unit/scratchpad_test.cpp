@@ -10,31 +10,31 @@
 namespace zel::test {
 namespace {
 
-/// Drives the scratch pad: typed characters go to Form_KeyPress; "=" is Enter,
+/// Drives the scratch pad: typed characters are typed; "=" is Enter,
 /// "C" the clear key, "M" "P" "N" the memory keys MRC, M+ and M-, "D" the lower
 /// face of the divide key, "<" Backspace; "a" "s" "m" "d" click the on-screen
 /// add, subtract, multiply and divide keys (a click, unlike a typed operator,
 /// does not first clear the entry).
 void press(Calculator& calc, std::string_view keys) {
     const std::map<char, std::function<void(Menu&)>> clicks{
-        {'=', [](Menu& m) { m.Form_KeyUp(key::Enter); }},
-        {'C', [](Menu& m) { m.LabC_Click(); }},
-        {'M', [](Menu& m) { m.LabMEM_Click(0); }},
-        {'P', [](Menu& m) { m.LabMEM_Click(1); }},
-        {'N', [](Menu& m) { m.LabMEM_Click(2); }},
-        {'D', [](Menu& m) { m.LabOP_Click(5); }},
-        {'<', [](Menu& m) { m.Form_KeyPress(key::Backspace); }},
-        {'a', [](Menu& m) { m.LabOP_Click(1); }},
-        {'s', [](Menu& m) { m.LabOP_Click(2); }},
-        {'m', [](Menu& m) { m.LabOP_Click(3); }},
-        {'d', [](Menu& m) { m.LabOP_Click(4); }},
+        {'=', [](Menu& m) { m.keyUp({.key = Key::Enter}); }},
+        {'C', [](Menu& m) { m.clear(); }},
+        {'M', [](Menu& m) { m.pressMemory(MemoryKey::Recall); }},
+        {'P', [](Menu& m) { m.pressMemory(MemoryKey::Add); }},
+        {'N', [](Menu& m) { m.pressMemory(MemoryKey::Subtract); }},
+        {'D', [](Menu& m) { m.pressOperator(Operator::DivideLower); }},
+        {'<', [](Menu& m) { m.keyDown({.key = Key::Backspace}); }},
+        {'a', [](Menu& m) { m.pressOperator(Operator::Add); }},
+        {'s', [](Menu& m) { m.pressOperator(Operator::Subtract); }},
+        {'m', [](Menu& m) { m.pressOperator(Operator::Multiply); }},
+        {'d', [](Menu& m) { m.pressOperator(Operator::Divide); }},
     };
     for (char k : keys) {
         const auto click = clicks.find(k);
         if (click != clicks.end()) {
             click->second(calc.menu);
         } else {
-            calc.menu.Form_KeyPress(static_cast<unsigned char>(k));
+            calc.menu.type(static_cast<unsigned char>(k));
         }
     }
 }
@@ -63,7 +63,11 @@ TEST(ScratchPad, ShowsWhatAPocketCalculatorShows) {
         {"a typed operator first clears the entry", Dot, "5x-", "-0.", 18},
         {"minus on an empty entry starts a negative", Dot, "-7", "-7.", 18},
         {"negative decimal", Dot, "-.5", "-0.5", 18},
-        {"a typed zero loses the negative start", Dot, "-0.5", "0.5", 18},
+        {"a minus typed before the digits stays", Dot, "-0.5", "-0.5", 18},
+        {"on -0. too", Dot, "-0.", "-0.", 18},
+        {"Backspace takes the sign with the last figure", Dot, "-0<", "0.", 18},
+        {"M+ ends the number: 50 M+ 10 M+ MRC is 60", Dot, "50P10PM", "60.", 18},
+        {"so does MRC", Dot, "4PM5", "5.", 18},
         {"divide", Dot, "7/2=", "3.5", 18},
         {"the lower divide face divides nothing", Dot, "7D2=", "2.", 18},
         {"clear after an operator keeps the calculation", Dot, "5+C3=", "8.", 18},
@@ -75,8 +79,8 @@ TEST(ScratchPad, ShowsWhatAPocketCalculatorShows) {
     for (const auto& c : cases) {
         Calculator calc(c.symbols, page::Weight);
         press(calc, c.keys);
-        EXPECT_EQ(calc.menu.display(), c.display) << c.name;
-        EXPECT_EQ(calc.menu.displayCompact(), c.size == 10) << c.name;
+        EXPECT_EQ(calc.menu.view().display, c.display) << c.name;
+        EXPECT_EQ(calc.view().displayEmphasis, c.size) << c.name;
     }
 }
 
@@ -86,23 +90,23 @@ TEST(ScratchPad, LimitsTheDecimalsThatFitTheDisplay) {
     EXPECT_TRUE(calc.ui.events.empty());
     press(calc, "5");
     EXPECT_EQ(calc.lastEvent(), "beep");
-    EXPECT_EQ(calc.menu.display(), "0.12345678901234");
+    EXPECT_EQ(calc.menu.view().display, "0.12345678901234");
 }
 
 TEST(ScratchPad, OperatorAndMemoryHighlights) {
     Calculator calc(Dot, page::Weight);
     press(calc, "5/");
-    EXPECT_TRUE(calc.menu.operatorLit(4));
-    EXPECT_TRUE(calc.menu.operatorLit(5));
+    EXPECT_TRUE(calc.view().operators[4].lit);
+    EXPECT_TRUE(calc.view().operators[5].lit);
     press(calc, "2+");
-    EXPECT_TRUE(calc.menu.operatorLit(1));
-    EXPECT_FALSE(calc.menu.operatorLit(4));
+    EXPECT_TRUE(calc.view().operators[1].lit);
+    EXPECT_FALSE(calc.view().operators[4].lit);
     press(calc, "=P");
-    EXPECT_FALSE(calc.menu.operatorLit(1));
-    EXPECT_TRUE(calc.menu.memoryLit(0));
+    EXPECT_FALSE(calc.view().operators[1].lit);
+    EXPECT_TRUE(calc.menu.view().memory[0].lit);
     press(calc, "MM"); // the second press clears the memory
     EXPECT_EQ(calc.menu.scratchPad().memory(), 0);
-    EXPECT_FALSE(calc.menu.memoryLit(0));
+    EXPECT_FALSE(calc.menu.view().memory[0].lit);
 }
 
 TEST(ScratchPad, DivisionByZeroIsReportedAndRecoverable) {
@@ -110,7 +114,7 @@ TEST(ScratchPad, DivisionByZeroIsReportedAndRecoverable) {
     press(calc, "7/0=");
     EXPECT_EQ(calc.lastEvent(), "critical zelFLIGHTAB: Division by zero");
     press(calc, "2=");
-    EXPECT_EQ(calc.menu.display(), "3.5");
+    EXPECT_EQ(calc.menu.view().display, "3.5");
     EXPECT_EQ(calc.menu.scratchPad().inputText(), "3.5");
 }
 
@@ -137,9 +141,9 @@ TEST(ScratchPad, OverflowIsReportedAndNothingInfiniteIsKept) {
 TEST(ScratchPad, RowClickDropsThePendingOperation) {
     Calculator calc(Dot, page::Weight);
     press(calc, "5+3");
-    calc.menu.LabValue_Click(2);
+    calc.menu.clickRow(2);
     EXPECT_EQ(calc.tag(2), "3");
-    EXPECT_EQ(calc.menu.scratchPad().pendingOperator(), 0);
+    EXPECT_EQ(calc.menu.scratchPad().pendingOperator(), Operator::Equals);
 }
 
 TEST(ScratchPad, FirstKeyAfterAnOperatorBlanksThePage) {

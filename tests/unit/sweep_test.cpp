@@ -28,18 +28,18 @@ const std::pair<const char*, std::string> Entries[] = {
 void press(Calculator& calc, const std::string& keys) {
     for (char c : keys) {
         if (c == '=') {
-            calc.menu.Form_KeyUp(key::Enter);
+            calc.menu.keyUp({.key = Key::Enter});
         } else {
-            calc.menu.Form_KeyPress(static_cast<unsigned char>(c));
+            calc.menu.type(static_cast<unsigned char>(c));
         }
     }
 }
 
-/// What a user can see change: every row's tag and caption.
+/// What a user can see change: every row's value, in full and as drawn.
 std::vector<std::string> rowsOf(const Menu& menu) {
     std::vector<std::string> rows;
-    for (int row = 1; row <= PageSheet::Rows; ++row) {
-        rows.push_back(menu.row(row).tag + '|' + menu.row(row).caption);
+    for (const RowView& shown : menu.view().rows) {
+        rows.push_back(shown.full + '|' + shown.value);
     }
     return rows;
 }
@@ -55,7 +55,7 @@ TEST(Sweep, EveryPairOfEntriesOnEveryPairOfRows) {
                         press(calc, aKeys);
                         const bool typed = calc.menu.scratchPad().inputValue() != 0;
                         const std::size_t told = calc.ui.events.size();
-                        calc.menu.LabValue_Click(first);
+                        calc.menu.clickRow(first);
                         const std::string where =
                             std::string(table.name) + ": " + a + " on row " + std::to_string(first);
                         // A first click that takes a value changes a row or says why not.
@@ -66,7 +66,7 @@ TEST(Sweep, EveryPairOfEntriesOnEveryPairOfRows) {
                                 << "silent refusal: " << where;
                         }
                         press(calc, bKeys);
-                        calc.menu.LabValue_Click(second);
+                        calc.menu.clickRow(second);
                         EXPECT_EQ(nonFinite(calc.menu), "")
                             << where << ", then " << b << " on row " << second;
                         if (HasFailure()) {

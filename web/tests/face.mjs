@@ -2,10 +2,46 @@
 // The web face as the tests read it: rows, display and boxes in the console's
 // words, so that a page can be compared with its golden script.
 
+/// Counts, in the page, the bells rung and the boxes opened: the tests
+/// listen to the browser's own sound and dialog calls, so that the app
+/// carries nothing for them.
+function listen() {
+  if (window.zelCounts) return;
+  window.zelCounts = { bells: 0, boxes: 0 };
+  const tone = AudioContext.prototype.createOscillator;
+  AudioContext.prototype.createOscillator = function createOscillator() {
+    window.zelCounts.bells += 1;
+    return tone.call(this);
+  };
+  const show = HTMLDialogElement.prototype.showModal;
+  HTMLDialogElement.prototype.showModal = function showModal() {
+    window.zelCounts.boxes += 1;
+    return show.call(this);
+  };
+}
+
+/// Waits until the app takes a tap (after a reload too).
+export async function ready(page) {
+  await page.waitForFunction(() => performance.getEntriesByName('zelflightab-ready').length > 0);
+}
+
 /// Opens the app and waits until it takes a tap.
 export async function open(page, path = '/') {
+  await page.addInitScript(listen);
   await page.goto(path);
-  await page.waitForSelector('#app[data-ready="true"]');
+  await ready(page);
+}
+
+/// How many bells have rung, and boxes opened, since the page was loaded.
+export async function counts(page) {
+  return page.evaluate(() => window.zelCounts);
+}
+
+/// The open box's text as the console prints it: its paragraphs, an empty
+/// line between them.
+export async function boxText(page) {
+  return page.evaluate(() => [...document.querySelectorAll('#dialog-text .paragraph')]
+    .map((p) => p.textContent).join('\n\n'));
 }
 
 /// A text as the console quotes it.
@@ -56,7 +92,7 @@ export async function answerBoxes(page, answers, by) {
       return {
         icon: dialog.dataset.icon,
         title: document.getElementById('dialog-title').textContent,
-        text: document.getElementById('dialog-text').textContent,
+        text: [...document.querySelectorAll('#dialog-text .paragraph')].map((p) => p.textContent).join('\n\n'),
         input: !document.getElementById('dialog-input').hidden,
         question: !document.getElementById('dialog-no').hidden,
       };

@@ -15,7 +15,7 @@ const chromium = {
 
 export default defineConfig({
   testDir: '.',
-  testMatch: '*.spec.mjs',
+  testMatch: '*.test.mjs',
   timeout: 60000,
   workers: 2,
   reporter: [['list']],

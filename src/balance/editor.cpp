@@ -1,0 +1,362 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 zelFLIGHTAB developers
+#include "balance/editor.h"
+
+#include <charconv>
+
+namespace zel::balance {
+namespace {
+
+std::string numberText(double value, const Symbols& symbols) {
+    return generalText(value, symbols);
+}
+std::string numberText(const std::optional<double>& value, const Symbols& symbols) {
+    return value ? numberText(*value, symbols) : std::string();
+}
+
+bool blank(std::string_view text) {
+    return text.find_first_not_of(" \t") == std::string_view::npos;
+}
+
+/// Parses the number "ids" of a field id: "station.2.arm" gives 2.
+int indexAt(std::string_view id, std::size_t& at) {
+    int value = 0;
+    const auto [end, error] = std::from_chars(id.data() + at, id.data() + id.size(), value);
+    if (error != std::errc()) {
+        return -1;
+    }
+    at = static_cast<std::size_t>(end - id.data()) + 1; // past the dot
+    return value;
+}
+
+/// Reads the number fields: a blank one is nothing, one that is no number
+/// stops the reading with the reason.
+class Numbers {
+  public:
+    explicit Numbers(const Symbols& symbols) : m_symbols(symbols) {}
+    std::optional<std::string> fault;
+
+    std::optional<double> read(const std::string& text, const std::string& what) {
+        if (fault || blank(text)) {
+            return std::nullopt;
+        }
+        const auto value = readRegional(text, m_symbols);
+        if (!value) {
+            fault = what + " \"" + text + "\" is not a number";
+        }
+        return value;
+    }
+    /// A field that must be there.
+    double need(const std::string& text, const std::string& what, const std::string& missing) {
+        if (!fault && blank(text)) {
+            fault = missing;
+        }
+        return read(text, what).value_or(0);
+    }
+
+  private:
+    const Symbols& m_symbols;
+};
+
+} // namespace
+
+ProfileEditor::ProfileEditor(const Aircraft& a, std::optional<std::string> replacing,
+                             const Symbols& symbols)
+    : m_replacing(std::move(replacing)) {
+    m_name = a.name;
+    m_source = a.source;
+    m_weightUnit = std::string(unitWord(a.units.weight));
+    m_armUnit = std::string(unitWord(a.units.arm));
+    m_fuelUnit = std::string(unitWord(a.units.fuel));
+    if (a.empty) {
+        m_emptyWeight = numberText(a.empty->weight, symbols);
+        m_emptyArm = numberText(a.empty->arm, symbols);
+    }
+    m_divisor = numberText(a.momentDivisor, symbols);
+    if (a.mac) {
+        m_macEdge = numberText(a.mac->leadingEdge, symbols);
+        m_macLength = numberText(a.mac->length, symbols);
+    }
+    m_maxRamp = numberText(a.maxWeight.ramp, symbols);
+    m_maxTakeoff = numberText(a.maxWeight.takeoff, symbols);
+    m_maxLanding = numberText(a.maxWeight.landing, symbols);
+    m_maxZeroFuel = numberText(a.maxWeight.zeroFuel, symbols);
+    for (const Station& s : a.stations) {
+        StationFields f{s.name, numberText(s.arm, symbols), numberText(s.max, symbols), {}, {}, {}};
+        if (s.fuel) {
+            f.usable = numberText(s.fuel->usable, symbols);
+            f.density = numberText(s.fuel->density, symbols);
+            f.unusable = s.fuel->unusable != 0 ? numberText(s.fuel->unusable, symbols) : "";
+        }
+        m_stations.push_back(std::move(f));
+    }
+    for (const Envelope& e : a.envelopes) {
+        EnvelopeFields f{e.name, {}};
+        for (Mass corner : e.corners) {
+            f.corners.push_back(
+                {numberText(corner.weight, symbols), numberText(corner.arm, symbols)});
+        }
+        m_envelopes.push_back(std::move(f));
+    }
+}
+
+std::string* ProfileEditor::field(std::string_view id) {
+    static const std::pair<std::string_view, std::string ProfileEditor::*> Named[] = {
+        {"name", &ProfileEditor::m_name},
+        {"source", &ProfileEditor::m_source},
+        {"weightUnit", &ProfileEditor::m_weightUnit},
+        {"armUnit", &ProfileEditor::m_armUnit},
+        {"fuelUnit", &ProfileEditor::m_fuelUnit},
+        {"emptyWeight", &ProfileEditor::m_emptyWeight},
+        {"emptyArm", &ProfileEditor::m_emptyArm},
+        {"momentDivisor", &ProfileEditor::m_divisor},
+        {"macLeadingEdge", &ProfileEditor::m_macEdge},
+        {"macLength", &ProfileEditor::m_macLength},
+        {"maxRamp", &ProfileEditor::m_maxRamp},
+        {"maxTakeoff", &ProfileEditor::m_maxTakeoff},
+        {"maxLanding", &ProfileEditor::m_maxLanding},
+        {"maxZeroFuel", &ProfileEditor::m_maxZeroFuel},
+    };
+    for (auto [name, member] : Named) {
+        if (id == name) {
+            return &(this->*member);
+        }
+    }
+    std::size_t at = 0;
+    if (id.starts_with("station.")) {
+        at = 8;
+        const int i = indexAt(id, at);
+        if (i < 1 || i > static_cast<int>(m_stations.size()) || at > id.size()) {
+            return nullptr;
+        }
+        StationFields& s = m_stations[static_cast<std::size_t>(i - 1)];
+        const std::string_view part = id.substr(at);
+        return part == "name"       ? &s.name
+               : part == "arm"      ? &s.arm
+               : part == "max"      ? &s.max
+               : part == "usable"   ? &s.usable
+               : part == "density"  ? &s.density
+               : part == "unusable" ? &s.unusable
+                                    : nullptr;
+    }
+    if (id.starts_with("envelope.")) {
+        at = 9;
+        const int j = indexAt(id, at);
+        if (j < 1 || j > static_cast<int>(m_envelopes.size()) || at > id.size()) {
+            return nullptr;
+        }
+        EnvelopeFields& e = m_envelopes[static_cast<std::size_t>(j - 1)];
+        std::string_view part = id.substr(at);
+        if (part == "name") {
+            return &e.name;
+        }
+        if (part.starts_with("corner.")) {
+            at += 7;
+            const int k = indexAt(id, at);
+            if (k < 1 || k > static_cast<int>(e.corners.size()) || at > id.size()) {
+                return nullptr;
+            }
+            CornerFields& c = e.corners[static_cast<std::size_t>(k - 1)];
+            part = id.substr(at);
+            return part == "weight" ? &c.weight : part == "arm" ? &c.arm : nullptr;
+        }
+    }
+    return nullptr;
+}
+
+void ProfileEditor::edit(std::string_view id, std::string_view text) {
+    if (std::string* f = field(id)) {
+        *f = std::string(text);
+    }
+}
+
+void ProfileEditor::apply(const FormAction& action) {
+    auto inRange = [](int n, std::size_t size) { return n >= 1 && n <= static_cast<int>(size); };
+    const auto group = static_cast<std::size_t>(action.group - 1);
+    const auto item = static_cast<std::size_t>(action.item - 1);
+    switch (action.kind) {
+    case FormAction::Kind::AddStation:
+        m_stations.push_back({});
+        break;
+    case FormAction::Kind::RemoveStation:
+        if (inRange(action.item, m_stations.size())) {
+            m_stations.erase(m_stations.begin() + static_cast<long>(item));
+        }
+        break;
+    case FormAction::Kind::AddEnvelope:
+        m_envelopes.push_back({"", {{}, {}, {}}});
+        break;
+    case FormAction::Kind::RemoveEnvelope:
+        if (inRange(action.group, m_envelopes.size())) {
+            m_envelopes.erase(m_envelopes.begin() + static_cast<long>(group));
+        }
+        break;
+    case FormAction::Kind::AddCorner:
+        if (inRange(action.group, m_envelopes.size())) {
+            m_envelopes[group].corners.push_back({});
+        }
+        break;
+    case FormAction::Kind::RemoveCorner:
+        if (inRange(action.group, m_envelopes.size()) &&
+            inRange(action.item, m_envelopes[group].corners.size())) {
+            auto& corners = m_envelopes[group].corners;
+            corners.erase(corners.begin() + static_cast<long>(item));
+        }
+        break;
+    case FormAction::Kind::Save:
+    case FormAction::Kind::Cancel:
+        break;
+    }
+}
+
+ProfileRead ProfileEditor::profile(const Symbols& symbols) const {
+    constexpr std::string_view Refusal = "Not an aircraft profile: ";
+    Numbers n(symbols);
+    Aircraft a;
+    a.name = m_name;
+    a.source = blank(m_source) ? std::string() : m_source;
+    const auto weight = weightUnit(m_weightUnit);
+    const auto arm = armUnit(m_armUnit);
+    const auto fuel = fuelUnit(m_fuelUnit);
+    if (!weight || !arm || !fuel) {
+        return std::string(Refusal) + "unknown unit " +
+               (!weight ? m_weightUnit
+                : !arm  ? m_armUnit
+                        : m_fuelUnit);
+    }
+    a.units = {*weight, *arm, *fuel};
+    if (!blank(m_emptyWeight) || !blank(m_emptyArm)) {
+        const double w = n.need(m_emptyWeight, "the empty weight", "its empty weight is missing");
+        const double e = n.need(m_emptyArm, "the empty arm", "its empty arm is missing");
+        a.empty = Mass{w, e};
+    }
+    a.momentDivisor = n.read(m_divisor, "the moment divisor").value_or(1);
+    if (!blank(m_macEdge) || !blank(m_macLength)) {
+        const double edge =
+            n.need(m_macEdge, "the MAC's leading edge", "its mac leading edge is missing");
+        const double length = n.need(m_macLength, "the MAC's length", "its mac length is missing");
+        a.mac = Mac{edge, length};
+    }
+    a.maxWeight = {n.read(m_maxRamp, "the max ramp weight"),
+                   n.read(m_maxTakeoff, "the max takeoff weight"),
+                   n.read(m_maxLanding, "the max landing weight"),
+                   n.read(m_maxZeroFuel, "the max zero fuel weight")};
+    for (std::size_t i = 0; i < m_stations.size(); ++i) {
+        const StationFields& s = m_stations[i];
+        const std::string place = "station " + std::to_string(i + 1);
+        const std::string its = place + " (" + s.name + "): its ";
+        Station station;
+        station.name = s.name;
+        station.arm = n.need(s.arm, its + "arm", place + " has no arm");
+        station.max = n.read(s.max, its + "max");
+        if (!blank(s.usable) || !blank(s.density) || !blank(s.unusable)) {
+            const std::string named = place + " (" + s.name + ")";
+            const double usable =
+                n.need(s.usable, its + "usable fuel", named + " has no usable fuel");
+            const double density =
+                n.need(s.density, its + "fuel density", named + " has no fuel density");
+            station.fuel =
+                FuelTank{usable, density, n.read(s.unusable, its + "unusable fuel").value_or(0)};
+        }
+        a.stations.push_back(std::move(station));
+    }
+    for (std::size_t j = 0; j < m_envelopes.size(); ++j) {
+        const EnvelopeFields& e = m_envelopes[j];
+        Envelope envelope{e.name, {}};
+        for (std::size_t k = 0; k < e.corners.size(); ++k) {
+            const CornerFields& c = e.corners[k];
+            if (blank(c.weight) && blank(c.arm)) {
+                continue; // a corner added and left empty
+            }
+            const std::string corner = "envelope " + std::to_string(j + 1) + " (" + e.name +
+                                       "): corner " + std::to_string(k + 1) + ": its ";
+            const double w = n.need(c.weight, corner + "weight", corner + "weight is missing");
+            const double x = n.need(c.arm, corner + "arm", corner + "arm is missing");
+            envelope.corners.push_back({w, x});
+        }
+        a.envelopes.push_back(std::move(envelope));
+    }
+    if (n.fault) {
+        return std::string(Refusal) + *n.fault;
+    }
+    if (const auto fault = checkProfile(a)) {
+        return std::string(Refusal) + *fault;
+    }
+    return a;
+}
+
+ProfileForm ProfileEditor::form() const {
+    ProfileForm f;
+    f.title = m_replacing ? "Edit " + *m_replacing : "New profile";
+    const std::string wu = "- " + m_weightUnit;
+    const std::string au = "- " + m_armUnit;
+    const std::string fu = "- " + m_fuelUnit;
+    auto text = [](std::string id, std::string label, const std::string& value) {
+        return FormField{std::move(id), std::move(label), value, {}};
+    };
+    FormSection aircraft{"Aircraft", {}, {}, {}, {}};
+    aircraft.fields = {
+        text("name", "Name", m_name),
+        FormField{"weightUnit", "Weight unit", m_weightUnit, {"lb", "kg"}},
+        FormField{"armUnit", "Arm unit", m_armUnit, {"in", "mm", "cm", "m"}},
+        FormField{"fuelUnit", "Fuel unit", m_fuelUnit, {"USG", "L", "ImpG"}},
+        text("emptyWeight", "Empty weight " + wu, m_emptyWeight),
+        text("emptyArm", "Empty arm " + au, m_emptyArm),
+        text("momentDivisor", "Moment divisor", m_divisor),
+        text("macLeadingEdge", "MAC leading edge " + au, m_macEdge),
+        text("macLength", "MAC length " + au, m_macLength),
+        text("maxRamp", "Max ramp " + wu, m_maxRamp),
+        text("maxTakeoff", "Max takeoff " + wu, m_maxTakeoff),
+        text("maxLanding", "Max landing " + wu, m_maxLanding),
+        text("maxZeroFuel", "Max zero fuel " + wu, m_maxZeroFuel),
+        text("source", "Source of the figures", m_source),
+    };
+    f.sections.push_back(std::move(aircraft));
+    FormSection stations{"Stations",
+                         {},
+                         {"Name", "Arm " + au, "Max " + wu, "Usable fuel " + fu,
+                          "Density " + m_weightUnit + "/" + m_fuelUnit, "Unusable fuel " + fu},
+                         {},
+                         {{"Add station", {FormAction::Kind::AddStation, 0, 0}}}};
+    for (std::size_t i = 0; i < m_stations.size(); ++i) {
+        const StationFields& s = m_stations[i];
+        const std::string id = "station." + std::to_string(i + 1) + ".";
+        const int n = static_cast<int>(i + 1);
+        stations.rows.push_back(
+            {{{id + "name", "Name", s.name, {}},
+              {id + "arm", "Arm " + au, s.arm, {}},
+              {id + "max", "Max " + wu, s.max, {}},
+              {id + "usable", "Usable fuel " + fu, s.usable, {}},
+              {id + "density", "Density " + m_weightUnit + "/" + m_fuelUnit, s.density, {}},
+              {id + "unusable", "Unusable fuel " + fu, s.unusable, {}}},
+             FormButton{"Remove", {FormAction::Kind::RemoveStation, 0, n}}});
+    }
+    f.sections.push_back(std::move(stations));
+    for (std::size_t j = 0; j < m_envelopes.size(); ++j) {
+        const EnvelopeFields& e = m_envelopes[j];
+        const int g = static_cast<int>(j + 1);
+        const std::string id = "envelope." + std::to_string(g) + ".";
+        FormSection envelope{"Envelope " + std::to_string(g),
+                             {text(id + "name", "Name", e.name)},
+                             {"Weight " + wu, "Arm " + au},
+                             {},
+                             {{"Add corner", {FormAction::Kind::AddCorner, g, 0}},
+                              {"Remove envelope", {FormAction::Kind::RemoveEnvelope, g, 0}}}};
+        for (std::size_t k = 0; k < e.corners.size(); ++k) {
+            const std::string cid = id + "corner." + std::to_string(k + 1) + ".";
+            envelope.rows.push_back(
+                {{{cid + "weight", "Weight " + wu, e.corners[k].weight, {}},
+                  {cid + "arm", "Arm " + au, e.corners[k].arm, {}}},
+                 FormButton{"Remove",
+                            {FormAction::Kind::RemoveCorner, g, static_cast<int>(k + 1)}}});
+        }
+        f.sections.push_back(std::move(envelope));
+    }
+    FormSection more{"", {}, {}, {}, {{"Add envelope", {FormAction::Kind::AddEnvelope, 0, 0}}}};
+    f.sections.push_back(std::move(more));
+    f.buttons = {{"Save", {FormAction::Kind::Save, 0, 0}},
+                 {"Cancel", {FormAction::Kind::Cancel, 0, 0}}};
+    return f;
+}
+
+} // namespace zel::balance

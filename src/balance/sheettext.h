@@ -1,0 +1,62 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 zelFLIGHTAB developers
+#pragma once
+
+#include "balance/loadsheet.h"
+#include "entry/numbertext.h"
+
+#include <optional>
+#include <string>
+#include <vector>
+
+// The loading sheet in words: the figures with the regional symbols and two
+// decimals, the margin to each limit, the helpers' answers, and the sheet as
+// text for the terminal and for print.
+
+namespace zel::balance {
+
+/// A figure as the sheet shows it: grouped, two decimals ("2,105.00").
+std::string figure(double value, const Symbols& symbols);
+
+/// "lb-in", "kg-mm", "lb-in/1000": the unit of the moments shown.
+std::string momentUnit(const Aircraft& aircraft);
+
+/// The name of a condition: "Zero fuel", "Takeoff", "Landing".
+std::string_view pointName(Point point);
+
+/// One limit checked, with its margin in words: "Takeoff: 38.00 lb under max
+/// takeoff", "Takeoff: CG 0.40 in forward of the Normal limit at 2,550.00 lb".
+struct LimitLine {
+    std::string text;
+    bool holds = true;
+    int envelope = -1; ///< the envelope it is about; -1 for a maximum
+};
+
+/// Every limit of the aircraft against the sheet: the maximum weights, then
+/// the stations over their max and the fuel over its usable, then each
+/// envelope with each condition and the burn line.
+std::vector<LimitLine> limitLines(const Aircraft& aircraft, const LoadSheet& sheet,
+                                  const Symbols& symbols);
+
+/// What a helper says: "Move 100.00 lb from Rear seats to Baggage A to bring
+/// the CG to 78.50 in", "Add 128.93 lb at Baggage A to ...", or why it cannot.
+std::string shiftText(const Aircraft& aircraft, const LoadSheet& sheet, std::size_t from,
+                      std::size_t to, double target, const Symbols& symbols);
+std::string ballastText(const Aircraft& aircraft, const LoadSheet& sheet, std::size_t station,
+                        double target, const Symbols& symbols);
+
+/// A helper asked for on the sheet.
+struct Helper {
+    enum class Kind { Shift, Ballast } kind = Kind::Shift;
+    double target = 0;
+    std::size_t from = 0; ///< the station weight moves from, or the ballast's
+    std::size_t to = 0;
+};
+
+/// The sheet as text: the aircraft, one line per station, the lines "Zero
+/// fuel", "Takeoff" and "Landing", then one line per maximum and per
+/// envelope with its margin, then the helper's answer when one is asked.
+std::string sheetText(const Aircraft& aircraft, const Loading& loading, const Symbols& symbols,
+                      const std::optional<Helper>& helper = std::nullopt);
+
+} // namespace zel::balance
