@@ -4,6 +4,7 @@
 
 #include "entry/numbertext.h"
 
+#include <algorithm>
 #include <array>
 
 namespace zel {
@@ -118,7 +119,11 @@ void writeBraking(PageSheet& page, std::string_view code) {
 
 Report decodeStateGroup(PageSheet& page, std::string_view group) {
     page.reset();
-    if (charCount(group) != 8) {
+    // Figures and "/" (a field not reported) only: any other character is no
+    // code of the group, and a guess at it would mislead.
+    const bool codes =
+        std::all_of(group.begin(), group.end(), [](char c) { return isDigit(c) || c == '/'; });
+    if (group.size() != 8 || !codes) {
         return Report::warning("Snowtam must be 8 digits...");
     }
     const Symbols& symbols = page.symbols();

@@ -4,6 +4,7 @@
 // the other, then what some rows hold (tags) or show (captions), and what the
 // user was told. See scenario.h for how a case reads.
 #include "scenario.h"
+#include "snowtam/snowtam.h"
 
 namespace zel::test {
 namespace {
@@ -296,6 +297,17 @@ TEST(Snowtam, DecodesEachFieldByItself) {
     for (const auto& [group, expect] : cases) {
         // Typed and decoded with a click on any row.
         check({group, Snowtam, (std::string(group) + "@5").c_str(), expect});
+    }
+}
+
+TEST(Snowtam, AGroupWithAnyCharacterButFiguresAndSlashesIsRefusedWhole) {
+    for (const std::string_view group : {"27/\xff\xff\xff\xff\xff", "2719ab93", "27 19/93"}) {
+        PageSheet sheet(Dot);
+        const Report report = decodeStateGroup(sheet, group);
+        EXPECT_EQ(report.paragraphs, std::vector<std::string>{"Snowtam must be 8 digits..."});
+        for (int row = 1; row <= PageSheet::Rows; ++row) {
+            EXPECT_EQ(sheet[row].text, "") << group << " row " << row;
+        }
     }
 }
 
