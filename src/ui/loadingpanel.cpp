@@ -87,7 +87,8 @@ LoadingPanel::LoadingPanel(Menu& menu, Act act, QWidget* parent)
     : QScrollArea(parent), m_menu(menu), m_act(std::move(act)) {
     setWidgetResizable(true);
     setFrameShape(QFrame::NoFrame);
-    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    // Should a sheet still be wider than the window, it scrolls: no figure is ever cut off.
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     setFocusPolicy(Qt::NoFocus);
     setAccessibleName(QStringLiteral("Loading sheet"));
     // The control the keyboard moves to is scrolled into view.
@@ -169,7 +170,7 @@ void LoadingPanel::rebuild() {
     font.setPointSizeF(8 * m_zoom);
     m_content->setFont(font);
     auto* layout = new QVBoxLayout(m_content);
-    layout->setContentsMargins(qRound(6 * m_zoom), qRound(4 * m_zoom), qRound(6 * m_zoom),
+    layout->setContentsMargins(qRound(4 * m_zoom), qRound(4 * m_zoom), qRound(4 * m_zoom),
                                qRound(6 * m_zoom));
     layout->setSpacing(qRound(4 * m_zoom));
     if (m_view.editor) {
@@ -244,7 +245,7 @@ void LoadingPanel::buildSheet(QVBoxLayout* layout) {
     // The sheet: station (with its fuel quantity), weight, arm (a
     // condition's CG), moment; the units under the headings.
     auto* grid = new QGridLayout;
-    grid->setHorizontalSpacing(qRound(3 * m_zoom));
+    grid->setHorizontalSpacing(qRound(2 * m_zoom));
     grid->setVerticalSpacing(qRound(1 * m_zoom));
     const std::vector<std::pair<std::string, std::string>> headings{{"Station", ""},
                                                                     {"Weight", m_view.weightUnit},
@@ -261,7 +262,8 @@ void LoadingPanel::buildSheet(QVBoxLayout* layout) {
     }
     int row = 2;
     for (const balance::LoadingLine& line : m_view.lines) {
-        QLabel* name = label(line.name, line.total);
+        // A long station name wraps, so that the figures keep their width.
+        QLabel* name = label(line.name, line.total, true);
         name->setProperty("flag", line.flagged);
         if (line.volume.entry > 0) {
             // Fuel is given as a quantity under its name, or as a weight.

@@ -16,10 +16,12 @@
 #include <QComboBox>
 #include <QFile>
 #include <QFileInfo>
+#include <QLabel>
 #include <QMenu>
 #include <QPrinter>
 #include <QPushButton>
 #include <QScreen>
+#include <QScrollBar>
 #include <QSettings>
 #include <QTemporaryDir>
 #include <QTest>
@@ -118,6 +120,53 @@ TEST_F(WindowTest, TheWeightAndBalanceSheetTakesTypedNumbersInItsCells) {
     EXPECT_GT(QFileInfo(printer.outputFileName()).size(), 2000);
     if (!shots.isEmpty()) {
         window.grab().save(QString::fromLocal8Bit(shots) + "/window-weight-balance.png");
+    }
+}
+
+TEST_F(WindowTest, TheLoadingSheetShowsEveryDigitAndScrollsOnlyWhenItMust) {
+    // The shipped metric profile, whose moments in kg-mm run to six figures
+    // and more: a real loading (empty 550 kg at 440 mm, 170 kg in front, 20 kg
+    // of baggage, 80 L of fuel and 30 L burnt) fits the window; 550 kg in
+    // every cell gives seven figures and scrolls sideways, hiding nothing.
+    struct Case {
+        std::vector<std::pair<int, const char*>> typed; // entry, number
+        bool fits;
+    };
+    const Case cases[] = {
+        {{{1, "550"}, {2, "440"}, {3, "170"}, {6, "20"}, {7, "80"}, {9, "30"}}, true},
+        {{{1, "550"}, {2, "550"}, {3, "550"}, {4, "550"}, {5, "550"}, {6, "550"}, {7, "550"}},
+         false},
+    };
+    for (const Case& c : cases) {
+        click(window.pageButton(28));
+        LoadingPanel* panel = window.loadingPanel();
+        ASSERT_NE(panel, nullptr);
+        for (const auto& [entry, number] : c.typed) {
+            auto* cell = panel->findChild<QPushButton*>(QStringLiteral("entry-%1").arg(entry));
+            ASSERT_NE(cell, nullptr) << entry;
+            type(number);
+            click(cell);
+        }
+        QApplication::processEvents();
+        QWidget* sheet = panel->widget();
+        ASSERT_NE(sheet, nullptr);
+        const bool fits = sheet->width() <= panel->viewport()->width();
+        EXPECT_EQ(fits, c.fits) << sheet->width();
+        EXPECT_TRUE(fits || (panel->horizontalScrollBar()->isVisible() &&
+                             panel->viewport()->width() + panel->horizontalScrollBar()->maximum() >=
+                                 sheet->width()))
+            << "part of the sheet cannot be scrolled to";
+        int figures = 0;
+        for (const QLabel* label : sheet->findChildren<QLabel*>()) {
+            if (label->isVisible() && !label->wordWrap() && label->text().contains(QChar('0'))) {
+                ++figures;
+                EXPECT_LE(label->fontMetrics().horizontalAdvance(label->text()),
+                          label->contentsRect().width())
+                    << label->text().toStdString();
+            }
+        }
+        EXPECT_GT(figures, 4);
+        click(window.menuButton());
     }
 }
 

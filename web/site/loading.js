@@ -114,7 +114,7 @@ function sheet(view, act, face) {
       body.append(el('tr', { className: `more${line.flagged ? ' flagged' : ''}` }, el('td', { colSpan: 4 }, line.note || line.mac)));
     }
   }
-  parts.push(el('table', { className: 'sheet', 'aria-label': 'Loading sheet' }, head, body));
+  parts.push(el('div', { className: 'sheet-frame' }, el('table', { className: 'sheet', 'aria-label': 'Loading sheet' }, head, body)));
   if (view.verdict) {
     parts.push(el('p', { className: `verdict ${view.withinLimits ? 'holds' : 'fails'}` }, view.verdict));
   }

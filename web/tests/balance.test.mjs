@@ -80,6 +80,34 @@ test.describe('weight and balance', () => {
     expect(result.violations.map((v) => `${v.id} ${v.nodes.map((n) => n.target).join(' ')}`)).toEqual([]);
   });
 
+  test('a metric sheet with seven-figure moments shows every digit, without running sideways', async ({ page }) => {
+    await openWeightAndBalance(page); // the shipped profile in kg and mm
+    for (let entry = 1; entry <= 12; ++entry) {
+      const cell = page.locator(`#entry-${entry}`);
+      if (await cell.count() === 0) continue;
+      await tapKeys(page, '550');
+      await cell.tap();
+    }
+    await expect(page.locator('.sheet tr.total').first()).toBeVisible();
+    expect(await page.evaluate(() => document.documentElement.scrollWidth)).toBeLessThanOrEqual(
+      await page.evaluate(() => window.innerWidth));
+    // Each figure stands on one line, and the whole sheet in its frame.
+    const broken = await page.locator('.sheet').evaluate((sheet) => {
+      const walker = document.createTreeWalker(sheet, NodeFilter.SHOW_TEXT);
+      const found = [];
+      for (let node = walker.nextNode(); node; node = walker.nextNode()) {
+        if (!/\d/.test(node.textContent)) continue;
+        const range = document.createRange();
+        range.selectNodeContents(node);
+        if (new Set([...range.getClientRects()].map((r) => Math.round(r.top))).size > 1) found.push(node.textContent);
+      }
+      return found;
+    });
+    expect(broken).toEqual([]);
+    const frame = page.locator('.sheet-frame');
+    expect(await frame.evaluate((f) => f.scrollWidth)).toBeLessThanOrEqual(await frame.evaluate((f) => f.clientWidth));
+  });
+
   test('a file that is no profile is refused with its reason; the kept ones stay', async ({ page }) => {
     await openWeightAndBalance(page);
     await importProfile(page, 'skyhawk.json');
