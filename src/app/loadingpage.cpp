@@ -28,51 +28,35 @@ void Menu::clickEntry(int entry) {
 }
 
 void Menu::chooseAircraft(int index) {
-    if (!blocked() && loadingPage()) {
-        m_balance.chooseAircraft(index);
-    }
+    onLoadingSheet([&] { m_balance.chooseAircraft(index); });
 }
 
 void Menu::chooseShift(int from, int to) {
-    if (!blocked() && loadingPage()) {
-        m_balance.chooseShift(from, to);
-    }
+    onLoadingSheet([&] { m_balance.chooseShift(from, to); });
 }
 
 void Menu::chooseBallast(int station) {
-    if (!blocked() && loadingPage()) {
-        m_balance.chooseBallast(station);
-    }
+    onLoadingSheet([&] { m_balance.chooseBallast(station); });
 }
 
 void Menu::newProfile() {
-    if (!blocked() && loadingPage()) {
-        m_balance.newProfile(m_symbols);
-    }
+    onLoadingSheet([&] { m_balance.newProfile(m_symbols); });
 }
 
 void Menu::duplicateProfile() {
-    if (!blocked() && loadingPage()) {
-        m_balance.duplicateProfile();
-    }
+    onLoadingSheet([&] { m_balance.duplicateProfile(); });
 }
 
 void Menu::editProfile() {
-    if (!blocked() && loadingPage()) {
-        m_balance.editProfile(m_symbols);
-    }
+    onLoadingSheet([&] { m_balance.editProfile(m_symbols); });
 }
 
 void Menu::renameProfile() {
-    if (!blocked() && loadingPage()) {
-        m_balance.renameProfile();
-    }
+    onLoadingSheet([&] { m_balance.renameProfile(); });
 }
 
 void Menu::deleteProfile() {
-    if (!blocked() && loadingPage()) {
-        m_balance.deleteProfile();
-    }
+    onLoadingSheet([&] { m_balance.deleteProfile(); });
 }
 
 void Menu::importProfile(std::string_view bytes) {
@@ -87,15 +71,11 @@ std::string Menu::exportProfile() const {
 }
 
 void Menu::editField(std::string_view field, std::string_view text) {
-    if (!blocked() && loadingPage()) {
-        m_balance.editField(field, text);
-    }
+    onLoadingSheet([&] { m_balance.editField(field, text); });
 }
 
 void Menu::pressFormButton(const balance::FormAction& action) {
-    if (!blocked() && loadingPage()) {
-        m_balance.pressFormButton(action, m_symbols);
-    }
+    onLoadingSheet([&] { m_balance.pressFormButton(action, m_symbols); });
 }
 
 } // namespace zel

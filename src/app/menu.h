@@ -164,6 +164,12 @@ class Menu {
     bool loadingPage() const {
         return m_face == Face::Page && m_table != nullptr && m_table->loading;
     }
+    /// Does what the loading sheet was asked, while it is shown and no box is open.
+    template <class Act> void onLoadingSheet(Act act) {
+        if (!blocked() && loadingPage()) {
+            act();
+        }
+    }
     /// A click on a cell of the loading sheet.
     void clickEntry(int entry);
     void loadUnits();

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // SPDX-FileCopyrightText: 2026 zelFLIGHTAB developers
 #include "convert/convert.h"
+#include "page/units.h"
 
 namespace zel {
 
@@ -51,7 +52,7 @@ extern const PageTable SpeedPage{
     .name = "Speed", // base: kilometer per hour; rows 7 and 8 are the Beaufort scale
     .icon = "speed",
     .rows = {{{"kilometer/hour - km/h", 1},
-              {"knots - kt", -1.851999692},
+              {"knots - kt", -units::TableKilometresPerNauticalMile},
               {"meter/second - m/s", 0.27777777778},
               {"miles/hour - mph", -1.609343871},
               {"feet/second - fps", 0.911344488},
@@ -61,18 +62,19 @@ extern const PageTable SpeedPage{
     .convert = convertSpeed,
     .functionKey = 4};
 
-extern const PageTable DistancePage{.name = "Distance", // base: kilometer
-                                    .icon = "distance",
-                                    .rows = {{{"meter - m", 1000},
-                                              {"nautical mile - nm", -1.851999692},
-                                              {"kilometer - km", 1},
-                                              {"statute mile - sm", -1.609343871},
-                                              {"centimeter - cm", 100000},
-                                              {"yard - yd", 1093.613298},
-                                              {"feet - ft", 3280.839895},
-                                              {"inch - \"", 39370.07874}}},
-                                    .convert = convertByFactor,
-                                    .functionKey = 5};
+extern const PageTable DistancePage{
+    .name = "Distance", // base: kilometer
+    .icon = "distance",
+    .rows = {{{"meter - m", 1000},
+              {"nautical mile - nm", -units::TableKilometresPerNauticalMile},
+              {"kilometer - km", 1},
+              {"statute mile - sm", -1.609343871},
+              {"centimeter - cm", 100000},
+              {"yard - yd", 1093.613298},
+              {"feet - ft", 3280.839895},
+              {"inch - \"", 39370.07874}}},
+    .convert = convertByFactor,
+    .functionKey = 5};
 
 extern const PageTable AnglePage{.name = "Angle",
                                  .icon = "angle",

@@ -5,6 +5,7 @@
 // typed values count first; the heading is worked out but not shown.
 #include "flight/windtriangle.h"
 #include "page/solver.h"
+#include "page/units.h"
 
 namespace zel {
 namespace {
@@ -13,15 +14,11 @@ using namespace solver;
 
 enum Quantity { Distance, Time, GroundSpeed, Course, Tas, WindDirection, WindSpeed, Heading };
 
-/// Kilometres per nautical mile on this page: 1.851999692, the rounded figure
-/// of the distance tables, deliberately not 1.852; keep it.
-constexpr double KilometresPerNauticalMile = 1.851999692;
-
 double toKilometres(double nm) {
-    return nm * KilometresPerNauticalMile;
+    return nm * units::TableKilometresPerNauticalMile;
 }
 double fromKilometres(double km) {
-    return km / KilometresPerNauticalMile;
+    return km / units::TableKilometresPerNauticalMile;
 }
 
 constexpr wind::Slots Triangle{.heading = Heading,
@@ -57,17 +54,9 @@ extern const PageTable TrackTimePage{
         {.unit = "Distance - nm", .quantity = Distance},
         {.unit = "Elapse Time - h:mm", .form = Form::HoursMinutes, .quantity = Time},
         {.unit = "Ground Speed - kt", .quantity = GroundSpeed},
-        {.unit = "Track (Course) - °",
-         .form = Form::Direction,
-         .quantity = Course,
-         .sign = Sign::NotNegative,
-         .range = wind::DirectionRange},
+        wind::directionRow("Track (Course) - °", Course),
         {.unit = "TAS - kt", .quantity = Tas},
-        {.unit = "Wind Direction - °",
-         .form = Form::Direction,
-         .quantity = WindDirection,
-         .sign = Sign::NotNegative,
-         .range = wind::DirectionRange},
+        wind::directionRow("Wind Direction - °", WindDirection),
         {.unit = "Wind Speed - kt", .quantity = WindSpeed, .sign = Sign::NotNegative},
     }},
     // Two of distance, time and speed, and four of the triangle's six.

@@ -41,4 +41,13 @@ double direction(double degrees);
 inline constexpr std::string_view BadDirection = "Invalid direction (range 1 - 360°)";
 inline constexpr Range DirectionRange{1, 360, false, BadDirection};
 
+/// A row of one of the triangle's directions: three digits, 001 to 360.
+constexpr RowSpec directionRow(std::string_view unit, int quantity) {
+    return {.unit = unit,
+            .form = Form::Direction,
+            .quantity = quantity,
+            .sign = Sign::NotNegative,
+            .range = DirectionRange};
+}
+
 } // namespace zel::wind

@@ -19,6 +19,10 @@ inline constexpr float TablePi = 3.14159274101257324f;
 inline constexpr double MetresPerFoot = 0.3048;
 inline constexpr double MetresPerNauticalMile = 1852;
 inline constexpr double FeetPerNauticalMile = MetresPerNauticalMile / MetresPerFoot;
+/// Kilometres per nautical mile on the distance, speed and track time pages:
+/// 1.851999692, the rounded figure of pilots' distance tables, deliberately
+/// not 1.852, so that the rows match those tables to the last digit.
+inline constexpr double TableKilometresPerNauticalMile = 1.851999692;
 /// A knot is a nautical mile an hour.
 inline constexpr double MetresPerSecondPerKnot = MetresPerNauticalMile / 3600;
 

@@ -60,10 +60,6 @@ bool allDigits(std::string_view text) {
     return std::all_of(text.begin(), text.end(), isDigit);
 }
 
-bool isStateCharacters(std::string_view text) {
-    return std::all_of(text.begin(), text.end(), [](char c) { return isDigit(c) || c == '/'; });
-}
-
 /// The text split at blanks and line breaks; several count as one.
 std::vector<std::string_view> groupsOf(std::string_view text) {
     std::vector<std::string_view> groups;

@@ -99,6 +99,10 @@ Braking braking(double bb, const Symbols& symbols) {
 
 } // namespace
 
+bool isStateCharacters(std::string_view text) {
+    return std::all_of(text.begin(), text.end(), [](char c) { return isDigit(c) || c == '/'; });
+}
+
 void writeStateGroup(PageSheet& page, std::string_view state) {
     if (const auto* deposit = lookUp(Deposits, state.substr(0, 1))) {
         page.setText(2, std::string(*deposit));
@@ -121,9 +125,7 @@ Report decodeStateGroup(PageSheet& page, std::string_view group) {
     page.reset();
     // Figures and "/" (a field not reported) only: any other character is no
     // code of the group, and a guess at it would mislead.
-    const bool codes =
-        std::all_of(group.begin(), group.end(), [](char c) { return isDigit(c) || c == '/'; });
-    if (group.size() != 8 || !codes) {
+    if (group.size() != 8 || !isStateCharacters(group)) {
         return Report::warning("Snowtam must be 8 digits...");
     }
     const Symbols& symbols = page.symbols();

@@ -8,6 +8,10 @@
 
 namespace zel {
 
+/// Whether the text holds only the characters of a runway-state group:
+/// figures, and "/" for a field not reported.
+bool isStateCharacters(std::string_view text);
+
 /// Decodes the eight-character runway-state group RRDEddBB of a SNOWTAM or
 /// METAR (runway, deposit, extent, depth, braking) into the page's rows.
 /// Each field is decoded by itself; a bad code never stops the others.

@@ -324,17 +324,6 @@ TEST(Chart, RoundTicksAndTheLoadingInDataUnits) {
             EXPECT_TRUE(std::isfinite(t.value)) << low << " " << high;
         }
     }
-    // Spans with nothing to tell apart, or beyond any scale, still give a
-    // short axis of finite round ticks.
-    for (auto [low, high] : {std::pair{94.0, 94.0}, std::pair{1e7, 1e7 + 1e-9},
-                             std::pair{-1e300, 1e300}, std::pair{0.0, 1e-300}}) {
-        const Chart::Axis odd = axis("CG - in", low, high, Dot);
-        EXPECT_LE(odd.ticks.size(), 12U) << low << " " << high;
-        EXPECT_LT(odd.low, odd.high) << low << " " << high;
-        for (const Chart::Tick& t : odd.ticks) {
-            EXPECT_TRUE(std::isfinite(t.value)) << low << " " << high;
-        }
-    }
     const Aircraft aircraft = skyhawk();
     const Chart c =
         chart(aircraft, workOut(aircraft, load(aircraft, {340, 0, 20, 0, 240}, 60)), Dot);
