@@ -15,7 +15,7 @@ const chromium = {
 
 export default defineConfig({
   testDir: '.',
-  testMatch: '*.test.mjs',
+  testMatch: '*.spec.mjs',
   timeout: 60000,
   workers: 2,
   reporter: [['list']],
