@@ -257,6 +257,16 @@ TEST(Profile, WrittenAndReadBackTheSame) {
     }
 }
 
+TEST(Profile, EveryMaximumWeightMayBeLeftOut) {
+    std::string json(FaaExample);
+    json.insert(1, R"("maxWeight": { "ramp": 2600 },)");
+    const Aircraft aircraft = read(json);
+    EXPECT_EQ(aircraft.maxWeight.ramp, 2600);
+    EXPECT_FALSE(aircraft.maxWeight.takeoff);
+    EXPECT_FALSE(aircraft.maxWeight.landing);
+    EXPECT_FALSE(aircraft.maxWeight.zeroFuel);
+}
+
 TEST(Profile, RefusedWithTheReason) {
     const std::string good(FaaExample);
     auto with = [&](std::string_view from, std::string_view to) {

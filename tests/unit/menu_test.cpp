@@ -52,6 +52,16 @@ TEST(Window, FunctionKeysOpenPagesFromTheMenuFace) {
     EXPECT_EQ(view.pages[18 - 1].key, "");    // Currency has none
 }
 
+TEST(Window, CtrlOneToEightClickTheirRows) {
+    for (char32_t c = '1'; c <= '8'; ++c) {
+        Calculator calc(Dot, page::Weight);
+        calc.type("2");
+        calc.menu.keyDown({.character = c, .ctrl = true});
+        const int row = static_cast<int>(c - '0');
+        EXPECT_TRUE(calc.shown(row).input) << row;
+    }
+}
+
 TEST(Window, EscapeEndsOnTheMenuAndClearsOnAPage) {
     Calculator calc(Dot, page::Weight);
     calc.enter(1, "5");

@@ -106,6 +106,8 @@ TEST(FormatNumber, GroupsWithMultiByteSymbols) {
     EXPECT_EQ(charCount("1\xe2\x80\x99"
                         "234"),
               5u);
+    EXPECT_EQ(charCount("\xf0\x9f\x98\x80!"), 2u); // a four-byte character, then one
+    EXPECT_EQ(charCount("\xf4\x8f\xbf\xbf"), 1u);  // the last code point
 }
 
 struct ReadCase {

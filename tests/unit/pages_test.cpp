@@ -98,6 +98,7 @@ TEST(FuelUplift, AddsUpliftTimesDensityToTheRemainingFuel) {
          "1=1000 | 3=378.541178 | 5=0.8 | 7=1302.8329424"},
         {"no uplift leaves the totals", FuelUplift, "500@1 0.8@5", "7=0 | 8=0"},
         {"a density of 1 kg/L passes", FuelUplift, "1@5", "5=1"},
+        {"a density in lbs/USG stays in its row", FuelUplift, "7@6", "6:7.00"},
         {"the totals are results", FuelUplift, "100@7", "7=0 | !beep"},
         {"no negative fuel", FuelUplift, "-1@1", "1=0 | !beep"},
     };
@@ -123,6 +124,7 @@ TEST(Endurance, SolvesQuantityFlowAndTime) {
         {"10 USG with 2 h give the flow through the litre rows", Endurance, "2@7 10@5",
          "3=37.8541178 | 4=18.9270589 | 6=5 | 8=120"},
         {"no pair and no endurance leave it empty", Endurance, "600@1 30@4", "7=0 | 8=0 | 1=600"},
+        {"2 h at 150 kg/hr need 300 kg", Endurance, "2@7 150@2", "1:300.00 | 2:150.00"},
         {"minutes are rounded, then split", Endurance, "119.994@8", "7:2:00"},
         {"1,999 kg at 1,000 kg/hr is 2:00", Endurance, "1999@1 1000@2", "7:2:00"},
         {"199 kg at 200 kg/hr is 1:00", Endurance, "199@1 200@2", "7:1:00"},
