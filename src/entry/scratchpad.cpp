@@ -128,8 +128,11 @@ void ScratchPad::backspace() {
     if (m_inputText.ends_with(m_symbols.decimal)) {
         m_inputText.resize(m_inputText.size() - m_symbols.decimal.size());
     }
-    if (m_inputText == "-") {
-        m_inputText = "0"; // the sign goes with the last figure
+    if (m_inputText.empty() || m_inputText == "-") {
+        // The sign goes with the last figure; an entry erased to nothing is
+        // nothing typed, not a typed zero.
+        m_inputText = "0";
+        m_typed = false;
     }
     m_inputValue = readNumber(m_inputText, m_symbols);
     displayValue();
@@ -219,10 +222,12 @@ Faulted ScratchPad::memoryKey(MemoryKey key) {
         if (m_inputValue != m_memory) {
             m_inputValue = m_memory;
             m_inputText = generalText(m_memory, m_symbols);
-            m_carried = true;
         } else {
             m_memory = 0;
         }
+        // A recalled number was not typed here: an empty memory recalls nothing
+        // a row click could take, a full one a number like a result.
+        m_typed = false;
         m_carried = true;
         displayValue();
         break;

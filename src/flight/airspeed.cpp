@@ -45,23 +45,24 @@ std::optional<Solution> solve(const PageSheet& page) {
     const double delta = pressureRatio(h);
     double sat = page.value(Sat);
     double tat = page.value(Tat);
-    const bool satGiven = sat != 0;
-    const bool tatGiven = tat != 0;
+    // 0 °C is a temperature like any other: a row counts once it holds one.
+    const bool satGiven = page.holds(Sat);
+    const bool tatGiven = page.holds(Tat);
     if ((satGiven && kelvin(sat) <= 0) || (tatGiven && kelvin(tat) <= 0)) {
         return std::nullopt; // below absolute zero
     }
 
     double mach = page.value(Mach);
-    if (mach == 0) {
+    if (!page.holds(Mach)) {
         if (satGiven && tatGiven) {
             if (tat < sat) {
                 return std::nullopt; // the probe cannot read colder than the air
             }
             mach = std::sqrt((kelvin(tat) / kelvin(sat) - 1) / 0.2 / kr);
-        } else if (const double cas = page.value(Cas); cas != 0) {
-            mach = machFromImpactPressure(impactPressureRatio(cas / a0) / delta);
-        } else if (const double eas = page.value(Eas); eas != 0) {
-            mach = eas / (a0 * std::sqrt(delta));
+        } else if (page.holds(Cas)) {
+            mach = machFromImpactPressure(impactPressureRatio(page.value(Cas) / a0) / delta);
+        } else if (page.holds(Eas)) {
+            mach = page.value(Eas) / (a0 * std::sqrt(delta));
         } else {
             const double tas = page.value(Tas);
             const double staticKelvin = satGiven ? kelvin(sat)
@@ -131,8 +132,8 @@ Report convertAirspeeds(PageSheet& page, double x, int& inputRow) {
     for (int row : {Mach, Cas, Eas, Tas}) {
         page.clear(row);
     }
-    const double kr = page.value(Recovery);
-    if (kr == 0 || kr > 1) {
+    // A probe recovers at most all of the heating; none given is a full recovery.
+    if (!page.holds(Recovery) || page.value(Recovery) > 1) {
         page.setValue(Recovery, 1);
     }
     page.setValue(inputRow, x);
@@ -146,8 +147,7 @@ Report convertAirspeeds(PageSheet& page, double x, int& inputRow) {
             page[row].derived = false;
         }
     }
-    if (page.value(Mach) == 0 && page.value(Cas) == 0 && page.value(Eas) == 0 &&
-        page.value(Tas) == 0) {
+    if (!page.holds(Mach) && !page.holds(Cas) && !page.holds(Eas) && !page.holds(Tas)) {
         return {}; // nothing more until a speed is given
     }
 

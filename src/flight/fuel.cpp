@@ -4,6 +4,8 @@
 
 #include "entry/fault.h"
 
+#include <optional>
+
 namespace zel {
 namespace {
 
@@ -34,10 +36,11 @@ void takeQuantityOrFlow(PageSheet& page, double x, int row) {
     }
 }
 
-/// The first unit system whose quantity and flow are both known, or 0.
+/// The first unit system whose quantity and flow are both known, 0 included,
+/// or 0 for none.
 int completePair(const PageSheet& page) {
     for (const auto& pair : Pairs) {
-        if (page.value(pair[0]) != 0 && page.value(pair[1]) != 0) {
+        if (page.holds(pair[0]) && page.holds(pair[1])) {
             return pair[0];
         }
     }
@@ -50,25 +53,44 @@ void clearRows(PageSheet& page, int from, int to) {
     }
 }
 
+/// Writes a result the page could work out; one it could not (a division by a
+/// zero it was given) leaves the row empty, never an old figure beside the zero.
+void setOrClear(PageSheet& page, int row, std::optional<double> value) {
+    if (value) {
+        page.setValue(row, *value);
+    } else {
+        page.clear(row);
+    }
+}
+
+std::optional<double> quotient(double a, double b) {
+    if (b == 0) {
+        return std::nullopt;
+    }
+    return a / b;
+}
+
 /// With no complete pair, a known quantity gives the flow and a known flow the
 /// quantity, kg first, then litres. US gallons are never tested: a value in
 /// gallons always fills the litre row too. The other unit system is cleared.
 template <typename FlowOf, typename QuantityOf>
 bool solveQuantityOrFlow(PageSheet& page, FlowOf flowOf, QuantityOf quantityOf) {
-    if (page.value(1) != 0) {
-        page.setValue(2, flowOf(page.value(1)));
+    if (page.holds(1)) {
+        setOrClear(page, 2, flowOf(page.value(1)));
         clearRows(page, 3, 6);
-    } else if (page.value(2) != 0) {
-        page.setValue(1, quantityOf(page.value(2)));
+    } else if (page.holds(2)) {
+        setOrClear(page, 1, quantityOf(page.value(2)));
         clearRows(page, 3, 6);
-    } else if (page.value(3) != 0) {
+    } else if (page.holds(3)) {
         clearRows(page, 1, 2);
-        page.setValue(4, flowOf(page.value(3)));
-        page.setValue(6, page.value(4) / LitresPerUsGallon);
-    } else if (page.value(4) != 0) {
+        const std::optional<double> flow = flowOf(page.value(3));
+        setOrClear(page, 4, flow);
+        setOrClear(page, 6, flow ? std::optional(*flow / LitresPerUsGallon) : std::nullopt);
+    } else if (page.holds(4)) {
         clearRows(page, 1, 2);
-        page.setValue(3, quantityOf(page.value(4)));
-        page.setValue(5, page.value(3) / LitresPerUsGallon);
+        const std::optional<double> quantity = quantityOf(page.value(4));
+        setOrClear(page, 3, quantity);
+        setOrClear(page, 5, quantity ? std::optional(*quantity / LitresPerUsGallon) : std::nullopt);
     } else {
         return false;
     }
@@ -115,7 +137,12 @@ Report convertFuelUplift(PageSheet& page, double x, int& inputRow) {
     if (page.value(5) > 1.0 || page.value(6) > 10.0) {
         report = Report::warning("Verify Fuel Density !");
     }
-    if (page.value(3) == 0 || page.value(5) == 0) {
+    // A total needs what is in the tanks, the uplift (0 included) and a
+    // density fuel can have: without one of them the totals are empty, never
+    // left from figures that no longer stand.
+    if (!page.holds(1) || !page.holds(3) || !page.holds(5) || page.value(5) == 0) {
+        page.clear(7);
+        page.clear(8);
         return report;
     }
     // Each total in its own unit system, from its own rows; the warning is read
@@ -140,14 +167,17 @@ Report convertEndurance(PageSheet& page, double x, int& inputRow) {
         takeQuantityOrFlow(page, x, inputRow);
     }
     if (const int quantity = completePair(page)) {
-        page.setValue(7, page.value(quantity) / page.value(quantity + 1));
-        page.setValue(8, page.value(7) * 60);
+        // A flow of 0 never empties the tanks: no endurance to show.
+        const std::optional<double> hours =
+            quotient(page.value(quantity), page.value(quantity + 1));
+        setOrClear(page, 7, hours);
+        setOrClear(page, 8, hours ? std::optional(*hours * 60) : std::nullopt);
         return {};
     }
     const double hours = page.value(7);
-    if (hours != 0 && solveQuantityOrFlow(
-                          page, [&](double quantity) { return quantity / hours; },
-                          [&](double flow) { return flow * hours; })) {
+    if (page.holds(7) && solveQuantityOrFlow(
+                             page, [&](double quantity) { return quotient(quantity, hours); },
+                             [&](double flow) { return std::optional(flow * hours); })) {
         return {};
     }
     if (inputRow <= 6) {
@@ -172,19 +202,29 @@ Report convertFuelRange(PageSheet& page, double x, int& inputRow) {
         }
         page.clear(8);
     }
-    if (page.value(inputRow) == 0) {
-        return {};
-    }
     const double groundSpeed = page.value(7);
     if (const int quantity = completePair(page)) {
-        page.setValue(8, page.value(quantity) / page.value(quantity + 1) * groundSpeed);
+        // The range needs a ground speed, and a flow that is not 0; a range
+        // typed before the ground speed is known stays as typed.
+        const std::optional<double> hours =
+            quotient(page.value(quantity), page.value(quantity + 1));
+        if (page.holds(7) || inputRow != 8) {
+            setOrClear(page, 8,
+                       hours && page.holds(7) ? std::optional(*hours * groundSpeed) : std::nullopt);
+        }
         return {};
     }
     const double range = page.value(8);
-    // A known flow with a ground speed of 0 never reaches the range: no answer.
-    if (range != 0 && solveQuantityOrFlow(
-                          page, [&](double quantity) { return quantity / range * groundSpeed; },
-                          [&](double flow) { return page.divide(flow * range, groundSpeed); })) {
+    // From a range, the flow or the quantity needs the ground speed too; a
+    // range or ground speed of 0 gives no flow or quantity.
+    if (page.holds(8) && page.holds(7) &&
+        solveQuantityOrFlow(
+            page,
+            [&](double quantity) {
+                const auto perMile = quotient(quantity, range);
+                return perMile ? std::optional(*perMile * groundSpeed) : std::nullopt;
+            },
+            [&](double flow) { return quotient(flow * range, groundSpeed); })) {
         return {};
     }
     if (inputRow <= 6) {

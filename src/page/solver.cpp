@@ -56,11 +56,14 @@ void propagate(const Formulas& formulas, Quantities& q) {
 Report solve(const PageTable& table, PageSheet& page, double x, int inputRow) {
     const Formulas& model = table.formulas;
     const RowSpec& typed = table.row(inputRow);
-    if ((x < 0 && typed.sign != Sign::Any) || (x == 0 && typed.sign == Sign::Positive)) {
+    const Range& range = typed.range;
+    const bool wrongSign =
+        (x < 0 && typed.sign != Sign::Any) || (x == 0 && typed.sign == Sign::Positive);
+    if (wrongSign && range.message.empty()) {
         return Report::beep();
     }
-    const Range& range = typed.range;
-    if (range.refuses(x) || !std::isfinite(apply(typed.fromRow, x))) {
+    // A row that states its range says so for a wrong sign too (a direction of -5).
+    if (wrongSign || range.refuses(x) || !std::isfinite(apply(typed.fromRow, x))) {
         return Report::warning(range.message);
     }
 

@@ -12,8 +12,9 @@ namespace zel::test {
 
 /// Values typed into rows on a page, one after the other, and what the page
 /// then holds. `entries` reads "1000@1 2000@3": type 1000, click row 1, and so
-/// on. `expect` is a list split by "|": "2=2205" row 2's tag, "7:R 11.31" row
-/// 7's caption ("8:" an empty one), "!beep" what the user was told, in order
+/// on; "@4" clicks row 4 with nothing typed, and in what is typed "{mrc}"
+/// presses MRC and "{bs}" Backspace. `expect` is a list split by "|": "2=2205" row 2's tag,
+/// "7:R 11.31" row 7's caption ("8:" an empty one), "!beep" what the user was told, in order
 /// (nothing, when no such item is given), ">4" the input row, "#300." the display.
 struct Scenario {
     const char* name;
@@ -50,7 +51,19 @@ inline void check(const Scenario& c) {
             ADD_FAILURE() << name << ": cannot read the entry \"" << entry << '"';
             return;
         }
-        calc.enter(row, entry.substr(0, at));
+        const std::string keys = entry.substr(0, at);
+        for (std::size_t i = 0; i < keys.size(); ++i) {
+            if (keys.compare(i, 5, "{mrc}") == 0) {
+                calc.menu.pressMemory(MemoryKey::Recall);
+                i += 4;
+            } else if (keys.compare(i, 4, "{bs}") == 0) {
+                calc.menu.keyDown({.key = Key::Backspace});
+                i += 3;
+            } else {
+                calc.menu.type(static_cast<unsigned char>(keys[i]));
+            }
+        }
+        calc.menu.clickRow(row);
     }
     std::vector<std::string> events;
     std::istringstream expect(c.expect);

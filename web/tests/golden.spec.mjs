@@ -132,6 +132,13 @@ async function perform(page, command, argument, by) {
     }
     return;
   }
+  case 'key': // the console's one key by name: Backspace, on the keypad too
+    if (taps && await page.locator('#keypad').isVisible()) await page.tap('#keypad [data-key="back"]');
+    else {
+      await page.locator('#app').focus();
+      await page.keyboard.press('Backspace');
+    }
+    return;
   case 'mem': return press(`[data-mem="${argument}"]`);
   case 'op': return press(argument === '0' ? '#equals' : `[data-op="${argument}"]`);
   case 'digits': return press('#digits');
