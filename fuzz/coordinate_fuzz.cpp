@@ -11,10 +11,12 @@
 using namespace zel;
 
 extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t size) {
-    const auto read = readCoordinates(fuzz::text(data, size));
-    if (!read) {
+    const CoordinateReading reading = readCoordinates(fuzz::text(data, size));
+    if (!reading) {
+        ZEL_CHECK(reading.coordinates.empty());
         return 0;
     }
+    const std::vector<Coordinate>* read = &reading.coordinates;
     ZEL_CHECK(read->size() == 1 || read->size() == 2);
     for (const Coordinate& c : *read) {
         ZEL_CHECK(std::isfinite(c.degrees));
@@ -23,8 +25,12 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t siz
             c.axis == Axis::Either && std::fabs(c.degrees) > 90 ? Axis::Longitude : c.axis;
         const std::string shown = degreesMinutes(c.degrees, axis, Symbols{});
         const auto again = readCoordinates(shown);
-        ZEL_CHECK(again && again->size() == 1);
-        ZEL_CHECK(std::fabs(again->front().degrees - c.degrees) <= 0.5 / 6000 + 1e-9);
+        ZEL_CHECK(again && again.coordinates.size() == 1);
+        ZEL_CHECK(std::fabs(again.coordinates.front().degrees - c.degrees) <= 0.5 / 6000 + 1e-9);
+        const std::string seconds = degreesMinutesSeconds(c.degrees, axis, Symbols{});
+        const auto exact = readCoordinates(seconds);
+        ZEL_CHECK(exact && exact.coordinates.size() == 1);
+        ZEL_CHECK(std::fabs(exact.coordinates.front().degrees - c.degrees) <= 0.5 / 360000 + 1e-9);
     }
     if (read->size() == 2) {
         ZEL_CHECK(read->front().axis == Axis::Latitude && read->back().axis == Axis::Longitude);

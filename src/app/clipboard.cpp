@@ -170,12 +170,20 @@ void Menu::paste(std::string_view text) {
     }
     const bool places = std::any_of(m_table->rows.begin(), m_table->rows.end(),
                                     [](const RowSpec& r) { return r.form == Form::Latitude; });
-    if (places && pasteCoordinates(text)) {
-        return;
+    std::string problem;
+    bool ambiguous = false;
+    if (places) {
+        const CoordinateReading read = readCoordinates(text);
+        if (read && pasteCoordinates(read.coordinates)) {
+            return;
+        }
+        problem = read.problem;
+        ambiguous = read.ambiguous;
     }
     // A number with a unit word, but not a coordinate the reader refused
     // ("91°N", "0.5°W"): its sign would be lost.
-    const auto keys = places && writtenAsCoordinate(text)
+    // Nor figures that could be a place more than one way ("51 28").
+    const auto keys = places && (ambiguous || writtenAsCoordinate(text))
                           ? std::nullopt
                           : pastedNumber(std::string(text), m_symbols);
     if (!keys && text.find_first_not_of(" \t\r\n") == std::string_view::npos) {
@@ -187,9 +195,12 @@ void Menu::paste(std::string_view text) {
         std::string shown(text.substr(0, 40));
         std::replace_if(
             shown.begin(), shown.end(), [](char c) { return c == '\r' || c == '\n'; }, ' ');
-        m_requests.message(MessageIcon::Exclamation, title(),
-                           {(places ? "Not a coordinate: " : "Not a number: ") + shown +
-                            (text.size() > 40 ? "..." : "")});
+        std::vector<std::string> paragraphs{(places ? "Not a coordinate: " : "Not a number: ") +
+                                            shown + (text.size() > 40 ? "..." : "")};
+        if (!problem.empty()) {
+            paragraphs.push_back(problem);
+        }
+        m_requests.message(MessageIcon::Exclamation, title(), paragraphs);
         return;
     }
     typePasted(*keys);
@@ -204,19 +215,15 @@ void Menu::typePasted(std::string_view keys) {
     }
 }
 
-bool Menu::pasteCoordinates(std::string_view text) {
-    const auto read = readCoordinates(text);
-    if (!read) {
-        return false;
-    }
+bool Menu::pasteCoordinates(const std::vector<Coordinate>& read) {
     // Signed decimal degrees as the keys type them: eight decimals are a
     // millimetre on the ground.
     const auto keysOf = [](double degrees) {
         std::string keys = formatNumber(degrees, "0.########", Symbols{".", ""});
         return keys == "-0" ? std::string("0") : keys;
     };
-    if (read->size() == 1) {
-        typePasted(keysOf(read->front().degrees));
+    if (read.size() == 1) {
+        typePasted(keysOf(read.front().degrees));
         return true;
     }
     // The page's latitude rows, each with the longitude row that follows it
@@ -236,10 +243,10 @@ bool Menu::pasteCoordinates(std::string_view text) {
         return !m_sheet.holds(rows.first) && !m_sheet.holds(rows.second);
     });
     const auto [latitude, longitude] = empty != pairs.end() ? *empty : pairs.back();
-    typePasted(keysOf((*read)[0].degrees));
+    typePasted(keysOf(read[0].degrees));
     clickRow(latitude);
     if (!blocked()) {
-        typePasted(keysOf((*read)[1].degrees));
+        typePasted(keysOf(read[1].degrees));
         clickRow(longitude);
     }
     return true;

@@ -44,6 +44,7 @@
 #include "app/view.h"
 #include "balance/weightbalance.h"
 #include "currency/ratestore.h"
+#include "entry/coordinate.h"
 #include "entry/scratchpad.h"
 #include "host/platform.h"
 #include "page/pagesheet.h"
@@ -187,7 +188,7 @@ class Menu {
     bool takeReport(std::string_view text);
     /// Coordinates pasted on a page of places: one into the entry, a pair
     /// into a latitude row and its longitude row; false for other text.
-    bool pasteCoordinates(std::string_view text);
+    bool pasteCoordinates(const std::vector<Coordinate>& coordinates);
     /// A pasted number's keys ("-0.5"), replacing the entry.
     void typePasted(std::string_view keys);
     void typeNumber(char32_t c);

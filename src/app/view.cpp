@@ -102,10 +102,22 @@ void Menu::rowView(int row, RowView& shown) const {
         break;
     }
     case Form::Latitude:
-    case Form::Longitude:
-        shown.detail = degreesMinutes(
-            v, shape.form == Form::Latitude ? Axis::Latitude : Axis::Longitude, m_symbols);
-        break;
+    case Form::Longitude: {
+        // As charts and flight plans write a place: degrees and minutes to
+        // the hundredth (about 18 m); with the digits key, to the second.
+        const Axis axis = shape.form == Form::Latitude ? Axis::Latitude : Axis::Longitude;
+        const std::string minutes = degreesMinutes(v, axis, m_symbols);
+        shown.value = m_digits == Digits::Two
+                          ? minutes
+                          : degreesMinutesSeconds(v, axis, m_symbols, m_digits == Digits::All);
+        shown.detail = shown.full + "°";
+        shown.emphasis = compact(shown.value, false) ? emphasis::SmallRow : emphasis::Row;
+        shown.shortForms.clear();
+        if (shown.value != minutes) {
+            shown.shortForms.push_back(minutes);
+        }
+        return;
+    }
     case Form::EastWest:
     case Form::Side:
     case Form::HeadTail: {

@@ -129,49 +129,108 @@ TEST(GreatCirclePage, KeepsEveryDigitOfTheCourses) {
 TEST(Coordinates, ReadAsPilotsWriteThem) {
     struct Case {
         const char* text;
-        std::vector<double> degrees; ///< empty: refused
+        std::vector<double> degrees;
     };
+    // Heathrow's reference point, 51°28′39″N 000°27′41″W, in every form.
     const double n5128 = 51 + 28.65 / 60;
     const double w00027 = -(27.68 / 60);
+    const double lhrN = 51 + 28 / 60.0 + 39 / 3600.0;
+    const double lhrW = -(27 / 60.0 + 41 / 3600.0);
     const Case cases[] = {
         {"51.4775", {51.4775}},
         {"-0.4614", {-0.4614}},
+        {"51.4775 -0.4614", {51.4775, -0.4614}},
+        {"51.4775 0.4614", {51.4775, 0.4614}},
+        {"51.4775, -0.4614", {51.4775, -0.4614}},
+        {"51.4775,-0.4614", {51.4775, -0.4614}},
+        {"51.4775/-0.4614", {51.4775, -0.4614}},
+        {"51.4775; -0.4614", {51.4775, -0.4614}},
+        {"51,4775 -0,4614", {51.4775, -0.4614}},
+        {"51,4775;-0,4614", {51.4775, -0.4614}},
+        {"-33 151", {-33, 151}},
+        {"51.4775N 0.4614W", {51.4775, -0.4614}},
+        {"N51.4775 W0.4614", {51.4775, -0.4614}},
+        {"51.4775 W0.4614", {51.4775, -0.4614}},
         {"51°28.65'N", {n5128}},
         {"N51 28.65", {n5128}},
-        {"51°28'39\"N", {51 + 28 / 60.0 + 39 / 3600.0}},
+        {"51°28'39\"N", {lhrN}},
+        {"51°28′39″N", {lhrN}},
+        {"51°28'39''N", {lhrN}},
         {"000°27.68'W", {w00027}},
         {"W000 27.68", {w00027}},
         {"s33° 52′ 4″", {-(33 + 52 / 60.0 + 4 / 3600.0)}},
+        {"51 28 39 N 0 27 41 W", {lhrN, lhrW}},
         {"N51°28.65' W000°27.68'", {n5128, w00027}},
         {"51°28.65'N, 000°27.68'W", {n5128, w00027}},
-        {"51.4775, -0.4614", {51.4775, -0.4614}},
+        {"51°28.65′ -0°27.68′", {n5128, w00027}},
+        {"W000°27.68' N51°28.65'", {n5128, w00027}},
+        {"512839N0002741W", {lhrN, lhrW}},
+        {"512839N 0002741W", {lhrN, lhrW}},
+        {"5128N00028W", {51 + 28 / 60.0, -(28 / 60.0)}},
+        {"5128N 00028W", {51 + 28 / 60.0, -(28 / 60.0)}},
+        {"N5128.6 W00027.7", {51 + 28.6 / 60, -(27.7 / 60)}},
+        {"N5128,6 W00027,7", {51 + 28.6 / 60, -(27.7 / 60)}},
         {"S90 E180", {-90, 180}},
-        // Refused: minutes or seconds of 60 or more, letters on the wrong
-        // side of a pair, beyond the poles or the date line, other text.
-        {"51°60.00'N", {}},
-        {"51°28'60\"N", {}},
-        {"W000°27.68' N51°28.65'", {}},
-        {"N51°28.65' N000°27.68'", {}},
-        {"N91", {}},
-        {"E180 30", {}},
-        {"-N51", {}},
-        {"51.5 28", {}},
-        {"N51 W0 E1", {}},
-        {"EGLL", {}},
-        {"", {}},
-        {"51°28.65'N,", {}},
+        {"−33.5", {-33.5}},
     };
     for (const Case& c : cases) {
-        const auto read = readCoordinates(c.text);
-        if (c.degrees.empty()) {
-            EXPECT_FALSE(read) << c.text;
-            continue;
-        }
-        ASSERT_TRUE(read) << c.text;
-        ASSERT_EQ(read->size(), c.degrees.size()) << c.text;
+        const CoordinateReading read = readCoordinates(c.text);
+        ASSERT_TRUE(read) << c.text << ": " << read.problem;
+        ASSERT_EQ(read.coordinates.size(), c.degrees.size()) << c.text;
         for (std::size_t i = 0; i < c.degrees.size(); ++i) {
-            EXPECT_NEAR((*read)[i].degrees, c.degrees[i], 1e-12) << c.text;
+            EXPECT_NEAR(read.coordinates[i].degrees, c.degrees[i], 1e-12) << c.text;
         }
+    }
+}
+
+TEST(Coordinates, RefuseWhatTheyCannotReadAndSayWhy) {
+    struct Case {
+        const char* text;
+        const char* why; ///< the start of the reason
+    };
+    const Case cases[] = {
+        {"51 28", "It can be read more than one way"},
+        {"51 28 39", "It can be read more than one way"},
+        {"51,5,0,5", "Its commas can be read"},
+        {"51°60.00'N", "Minutes and seconds are under 60"},
+        {"51°28'60\"N", "Minutes and seconds are under 60"},
+        {"5160N00028W", "Minutes and seconds are under 60"},
+        {"N5128.6 W00060.5", "Minutes and seconds are under 60"},
+        {"N51°28.65' N000°27.68'", "It holds two latitudes"},
+        {"E1 W2", "It holds two longitudes"},
+        {"N91", "A latitude is at most 90°"},
+        {"91 0", "It can be read more than one way"},
+        {"91, 0", "A latitude is at most 90°"},
+        {"E180 30", "A longitude is at most 180°"},
+        {"181", "A longitude is at most 180°"},
+        {"-N51", "A coordinate has a sign or a letter"},
+        {"N51 W0 E1", "A position is one latitude and one longitude"},
+        {"1, 2, 3", "A position is one latitude and one longitude"},
+        {"EGLL", "Its letters are not N, S, E or W"},
+        {"51.5 kt", "Its letters are not N, S, E or W"},
+        {"", "There is nothing to read"},
+        {"   ", "There is nothing to read"},
+        {"51°28.65'N,", "A comma, semicolon or slash has no coordinate"},
+        {"51.5°28'", "Only the last of degrees, minutes and seconds has decimals"},
+        {"51'28°", "Its marks are out of order"},
+        {"°51", "Its marks stand where no figures are"},
+        {"512N", "A latitude is at most 90°"},
+        {"51283N", "A latitude's figures run together are DDMM or DDMMSS"},
+        {"0028W", "A longitude's figures run together are DDDMM or DDDMMSS"},
+        {"N51 - 0", "Its signs stand where no coordinate has one"},
+        {"51#", "It holds a character no coordinate is written with"},
+        {"N", "A letter or a sign has no figures"},
+        {"99999999999999999999999999999999999999999999999999999999999999999999999999999999999"
+         "99999999999999999999999999999999999999999999999999999999999999999999999999999999999"
+         "99999999999999999999999999999999999999999999999999999999999999999999999999999999999"
+         "99999999999999999999999999999999999999999999999999999999999999999999999999999999999",
+         "Its figures are too many"},
+    };
+    for (const Case& c : cases) {
+        const CoordinateReading read = readCoordinates(c.text);
+        EXPECT_FALSE(read) << c.text;
+        EXPECT_TRUE(read.coordinates.empty()) << c.text;
+        EXPECT_TRUE(read.problem.starts_with(c.why)) << c.text << ": " << read.problem;
     }
 }
 
@@ -186,22 +245,38 @@ TEST(Coordinates, ShownInDegreesAndMinutes) {
 
 TEST(Coordinates, PastedOntoAPageOfPlaces) {
     Calculator calc(Dot, GreatCircle);
-    calc.menu.paste("N40°36' W073°48'");
-    calc.menu.paste("N51°36' W000°30'");
-    EXPECT_EQ(calc.caption(5), "2,997.71");
-    EXPECT_EQ(calc.menu.view().rows[0].detail, "N 40°36.00′");
+    calc.menu.paste("40.639928 -73.778692");
+    calc.menu.paste("512839N0002741W");
+    EXPECT_EQ(calc.caption(5), "2,999.09");
+    EXPECT_EQ(calc.caption(1), "N 40°38.40′");
+    EXPECT_EQ(calc.caption(2), "W 073°46.72′");
+    EXPECT_EQ(calc.menu.view().rows[0].detail, "40.639928°");
+    // The digits key shows seconds to the hundredth, then whole; the
+    // values stay as typed.
+    calc.menu.pressDigits();
+    EXPECT_EQ(calc.caption(4), "W 000°27′41.00″");
+    calc.menu.pressDigits();
+    EXPECT_EQ(calc.caption(3), "N 51°28′39″");
+    EXPECT_EQ(calc.tag(1), "40.639928");
+    calc.menu.pressDigits();
     // Another pair goes to the To rows once From is full.
-    calc.menu.paste("N51°28.65' W000°27.68'");
-    EXPECT_EQ(calc.caption(1), "40.60");
-    EXPECT_EQ(calc.caption(3), "51.48");
+    calc.menu.paste("N5128.6 W00027.7");
+    EXPECT_EQ(calc.caption(1), "N 40°38.40′");
+    EXPECT_EQ(calc.caption(3), "N 51°28.60′");
     // One coordinate is the entry, ready for a row.
     calc.menu.paste("000°27.68'W");
     EXPECT_EQ(calc.view().display, "-0.46133333");
     EXPECT_TRUE(calc.ui.events.empty());
     calc.menu.paste("N51°60'");
+    calc.menu.paste("51 28");
     EXPECT_EQ(calc.ui.events,
-              std::vector<std::string>{"exclamation Great Circle: Not a coordinate: N51°60'"});
-    EXPECT_EQ(calc.caption(3), "51.48");
+              (std::vector<std::string>{
+                  "exclamation Great Circle: Not a coordinate: N51°60'\r\rMinutes and seconds "
+                  "are under 60.",
+                  "exclamation Great Circle: Not a coordinate: 51 28\r\rIt can be read more "
+                  "than one way: mark the degrees and minutes (51°28′), or separate the latitude "
+                  "and longitude with a comma (51, 28)."}));
+    EXPECT_EQ(calc.caption(3), "N 51°28.60′");
 }
 
 } // namespace
