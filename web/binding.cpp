@@ -468,6 +468,8 @@ class Calculator {
         s.set("displayShortForms", strings(v.displayShortForms));
         s.set("displayEmphasis", v.displayEmphasis);
         s.set("hint", v.hint);
+        s.set("note", v.note);
+        s.set("places", v.places);
         s.set("digits", v.digits);
         s.set("panels", v.panels);
         val memory = val::array();

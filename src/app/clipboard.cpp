@@ -124,6 +124,23 @@ std::optional<std::string> pastedNumber(std::string text, const Symbols& symbols
     return keys;
 }
 
+std::string_view trimmedBlanks(std::string_view text) {
+    const auto first = text.find_first_not_of(" \t\r\n");
+    if (first == std::string_view::npos) {
+        return {};
+    }
+    return text.substr(first, text.find_last_not_of(" \t\r\n") - first + 1);
+}
+
+/// Hours, a colon and two figures of minutes: "1:30", "12:05".
+bool isClockTime(std::string_view text) {
+    const std::string_view t = trimmedBlanks(text);
+    const auto colon = t.find(':');
+    return colon != std::string_view::npos && colon >= 1 && colon <= 6 && t.size() == colon + 3 &&
+           std::all_of(t.begin(), t.end(), [](char c) { return isDigit(c) || c == ':'; }) &&
+           t.find(':', colon + 1) == std::string_view::npos;
+}
+
 } // namespace
 
 bool Menu::takeReport(std::string_view text) {
@@ -168,8 +185,11 @@ void Menu::paste(std::string_view text) {
         takeReport(text);
         return;
     }
-    const bool places = std::any_of(m_table->rows.begin(), m_table->rows.end(),
-                                    [](const RowSpec& r) { return r.form == Form::Latitude; });
+    const bool places = m_table->takesPlaces();
+    if (isClockTime(text)) {
+        typePasted(trimmedBlanks(text)); // "1:30", for an h:mm row
+        return;
+    }
     std::string problem;
     bool ambiguous = false;
     if (places) {

@@ -54,7 +54,10 @@ void Menu::typeNumber(char32_t c) {
     switch (c) {
     case ',':
     case '.':
-        m_pad.typeDecimal(); // either key types the regional decimal symbol
+        // Either key types the regional decimal symbol; minutes take none.
+        if (!m_pad.typeDecimal()) {
+            m_platform.ui.beep();
+        }
         break;
     case '+':
         operate(Operator::Add);
@@ -69,6 +72,11 @@ void Menu::typeNumber(char32_t c) {
         break;
     case '/':
         operate(Operator::Divide);
+        break;
+    case ':':
+        if (!m_pad.typeColon()) {
+            m_platform.ui.beep(); // one colon, in a whole number of hours
+        }
         break;
     default:
         if (c >= '0' && c <= '9') {

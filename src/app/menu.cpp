@@ -142,7 +142,21 @@ void Menu::clickRow(int index) {
             return;
         }
         double value = entry;
-        if (m_table->row(index).form == Form::HoursMinutes) {
+        const auto clock = m_pad.clockTime();
+        if (clock && m_table->row(index).form != Form::HoursMinutes) {
+            m_platform.ui.beep();
+            m_refusal = m_pad.display() + " refused: a time goes into an h:mm row";
+            return;
+        }
+        if (clock) {
+            // Typed with a colon: hours and minutes as they stand.
+            if (clock->minutes >= 60) {
+                m_platform.ui.beep();
+                m_refusal = m_pad.display() + " refused: minutes under 60";
+                return;
+            }
+            value = (clock->negative ? -1 : 1) * (clock->hours + clock->minutes / 60);
+        } else if (m_table->row(index).form == Form::HoursMinutes) {
             // A time is typed as hours.minutes: 1.30 is an hour and a half.
             const double hours = std::trunc(entry);
             double minutes = (entry - hours) * 100;
@@ -171,6 +185,8 @@ void Menu::clickRow(int index) {
 bool Menu::convert(int& inputRow, double entry) {
     m_sheet.setToday(m_platform.clock.today());
     const PageSheet::Snapshot before = m_sheet.snapshot();
+    const std::string noteBefore = m_sheet.note();
+    m_sheet.setNote({});
     // A row that states its range refuses a value outside it before any
     // converter sees it; the solver checks its own rows' ranges.
     const Range& range = m_table->row(inputRow).range;
@@ -181,6 +197,10 @@ bool Menu::convert(int& inputRow, double entry) {
     if (const Faulted fault = m_sheet.takeFault(); fault && !report.fault) {
         // The calculation stopped at the fault: nothing it would have said after it counts.
         report = Report{.kind = Report::Kind::None, .paragraphs = {}, .fault = fault};
+    }
+    if (report.fault || report.kind != Report::Kind::None) {
+        // A refused value or a fault changes nothing: the note stands with the rows.
+        m_sheet.setNote(noteBefore);
     }
     if (report.fault) {
         m_sheet.restore(before); // no row shows half a calculation

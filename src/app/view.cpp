@@ -191,6 +191,10 @@ View Menu::view() const {
             }
         }
     }
+    if (page) {
+        v.note = m_sheet.note();
+        v.places = m_table->takesPlaces();
+    }
     if (!m_refusal.empty() && page) {
         v.hint = m_refusal;
     }

@@ -90,6 +90,12 @@ struct View {
     /// What to know about typing into the input row, or why a value typed
     /// was refused: "1.30 = 1:30", "1.60 refused: minutes under 60".
     std::string hint;
+    /// What the page says of its results as a whole: a caution, a course
+    /// that is not unique. Empty for nothing.
+    std::string note;
+    /// The page takes places: a field for a coordinate written as pilots
+    /// write it, typed or pasted, with the screen's own keyboard on a phone.
+    bool places = false;
 
     std::string digits; ///< the digits key: "0.00", "0....", "0"
     /// The memory, digits and operator keys are shown (not on a report page).

@@ -332,6 +332,12 @@ std::optional<std::string> ConsoleSession::run(const std::string& rawLine) {
             show(view, m_out);
         } else if (argument == "display") {
             showDisplay(view, m_out);
+        } else if (argument == "hint") {
+            // What to know about typing into the input row, or why a value was refused.
+            m_out << "hint " << quotedText(view.hint) << '\n';
+        } else if (argument == "note") {
+            // What the page says of its results.
+            m_out << "note " << quotedText(view.note) << '\n';
         } else if (argument == "sheet" && view.loading) {
             m_out << view.loading->sheet;
         } else if (argument == "rows") {
@@ -343,7 +349,7 @@ std::optional<std::string> ConsoleSession::run(const std::string& rawLine) {
                                         : std::nullopt) {
             showRow(view, *row, m_out);
         } else {
-            return std::string("show takes nothing, display, sheet, rows or row N");
+            return std::string("show takes nothing, display, hint, note, sheet, rows or row N");
         }
         return std::nullopt;
     }
@@ -383,6 +389,9 @@ void ConsoleSession::show(const View& view, std::ostream& out) {
     }
     for (int row = 1; row <= PageSheet::Rows; ++row) {
         showRow(view, row, out);
+    }
+    if (!view.note.empty()) {
+        out << "note " << quotedText(view.note) << '\n';
     }
 }
 

@@ -46,6 +46,14 @@ void ScratchPad::reset(bool textPage) {
 }
 
 void ScratchPad::displayValue() {
+    if (const auto time = clockTime()) {
+        // As typed: the hours grouped, the minutes' figures as they stand.
+        const std::string minutes = m_inputText.substr(m_inputText.find(':') + 1);
+        m_display = (time->negative ? "-" : "") + formatNumber(time->hours, "#,##0", m_symbols) +
+                    ":" + minutes;
+        m_displayCompact = charCount(m_display) > 11;
+        return;
+    }
     const std::string& dec = m_symbols.decimal;
     // A minus typed before the digits stays, on "-0." too.
     const bool negative = m_inputValue < 0 || m_inputText.starts_with('-');
@@ -75,8 +83,47 @@ void ScratchPad::redisplay(bool textPage, const Symbols& before) {
     }
 }
 
+std::optional<ScratchPad::ClockTime> ScratchPad::clockTime() const {
+    const auto colon = m_inputText.find(':');
+    if (colon == std::string::npos) {
+        return std::nullopt;
+    }
+    ClockTime time;
+    time.negative = m_inputText.starts_with('-');
+    const std::string hours =
+        m_inputText.substr(time.negative ? 1 : 0, colon - (time.negative ? 1 : 0));
+    const std::string minutes = m_inputText.substr(colon + 1);
+    time.hours = hours.empty() ? 0 : std::stod(hours);
+    time.minutes = minutes.empty() ? 0 : std::stod(minutes);
+    return time;
+}
+
+bool ScratchPad::typeColon() {
+    startOver();
+    if (contains(m_inputText, m_symbols.decimal) || containsE(m_inputText) ||
+        m_inputText.find(':') != std::string::npos || std::fabs(m_inputValue) >= 1e9) {
+        return false;
+    }
+    m_inputText += ':';
+    m_typed = true;
+    displayValue();
+    return true;
+}
+
 ScratchPad::Typed ScratchPad::typeDigit(int digit) {
     startOver();
+    if (const auto colon = m_inputText.find(':'); colon != std::string::npos) {
+        // At most two figures of minutes.
+        if (m_inputText.size() - colon > 2) {
+            return Typed::Full;
+        }
+        m_inputText += static_cast<char>('0' + digit);
+        const ClockTime time = *clockTime();
+        m_inputValue = (time.negative ? -1 : 1) * (time.hours + time.minutes / 60);
+        m_typed = true;
+        displayValue();
+        return Typed::Digit;
+    }
     const std::string& dec = m_symbols.decimal;
     // The display takes at most 13 characters after the decimal symbol.
     const auto at = m_display.find(dec);
@@ -112,11 +159,15 @@ void ScratchPad::startOver() {
     }
 }
 
-void ScratchPad::typeDecimal() {
+bool ScratchPad::typeDecimal() {
     startOver();
+    if (m_inputText.find(':') != std::string::npos) {
+        return false; // minutes are whole
+    }
     if (!contains(m_inputText, m_symbols.decimal)) {
         m_inputText += m_symbols.decimal;
     }
+    return true;
 }
 
 void ScratchPad::backspace() {
@@ -127,6 +178,11 @@ void ScratchPad::backspace() {
     dropLastCharacter(m_inputText);
     if (m_inputText.ends_with(m_symbols.decimal)) {
         m_inputText.resize(m_inputText.size() - m_symbols.decimal.size());
+    }
+    if (const auto time = clockTime()) {
+        m_inputValue = (time->negative ? -1 : 1) * (time->hours + time->minutes / 60);
+        displayValue();
+        return;
     }
     if (m_inputText.empty() || m_inputText == "-") {
         // The sign goes with the last figure; an entry erased to nothing is

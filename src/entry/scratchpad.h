@@ -6,6 +6,7 @@
 #include "entry/numbertext.h"
 
 #include <array>
+#include <optional>
 #include <string>
 
 namespace zel {
@@ -57,7 +58,20 @@ class ScratchPad {
     /// A digit key: taken, or refused because the display is full (the caller
     /// beeps) or the number would leave the double range (nothing changes).
     Typed typeDigit(int digit);
-    void typeDecimal();
+    /// The decimal key; false when the entry is a time typed with a colon.
+    bool typeDecimal();
+    /// The colon of a time typed as hours:minutes ("1:30"); false when the
+    /// entry cannot take one (it has decimals, or a colon already).
+    bool typeColon();
+    /// A time typed with a colon, as hours and minutes ("1:75" is 1 and 75,
+    /// for the row to refuse); nothing for any other entry. The entry's
+    /// value is then the decimal hours (1:30 is 1.5).
+    struct ClockTime {
+        double hours = 0;
+        double minutes = 0;
+        bool negative = false;
+    };
+    std::optional<ClockTime> clockTime() const;
     void backspace();
     /// The entry becomes a row's value.
     void select(double value);

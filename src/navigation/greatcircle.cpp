@@ -10,6 +10,9 @@
 
 #include <GeographicLib/Geodesic.hpp>
 
+#include <cmath>
+#include <optional>
+
 namespace zel {
 namespace {
 
@@ -23,6 +26,36 @@ enum Row {
     InitialCourse = 7,
     FinalCourse = 8
 };
+
+/// A course in whole degrees, 001 to 360: north is 360.
+std::string courseText(double course, const Symbols& symbols) {
+    const double degrees = std::round(places::compass(course));
+    return formatNumber(degrees == 0 ? 360 : degrees, "000", symbols);
+}
+
+/// Two places mirrored across the equator (the second at the first's
+/// latitude south of it) are joined by a geodesic and its mirror image, of
+/// the same length; the image leaves on the course the first arrives on.
+/// When the two differ and the image too ends within a nautical mile of the
+/// destination (antipodal places, or nearly), no one course is the shortest:
+/// the image's course is returned.
+std::optional<double> otherShortestCourse(const PageSheet& page, double metres, double initial,
+                                          double final) {
+    if (std::fabs(std::remainder(initial - final, 360)) < 0.5) {
+        return std::nullopt;
+    }
+    const GeographicLib::Geodesic& earth = GeographicLib::Geodesic::WGS84();
+    double latitude = 0;
+    double longitude = 0;
+    earth.Direct(page.value(FromLatitude), page.value(FromLongitude), final, metres, latitude,
+                 longitude);
+    double apart = 0;
+    earth.Inverse(latitude, longitude, page.value(ToLatitude), page.value(ToLongitude), apart);
+    if (apart > units::MetresPerNauticalMile) {
+        return std::nullopt;
+    }
+    return final;
+}
 
 Report convertGreatCircle(PageSheet& page, double x, int& inputRow) {
     page.setValue(inputRow, x);
@@ -44,10 +77,17 @@ Report convertGreatCircle(PageSheet& page, double x, int& inputRow) {
     page.setValue(DistanceNm, metres / units::MetresPerNauticalMile);
     page.setValue(DistanceKm, metres / 1000);
     // The same place twice has no course to fly.
-    if (metres > 0) {
-        page.setValue(InitialCourse, places::compass(initial));
-        page.setValue(FinalCourse, places::compass(final));
+    if (metres == 0) {
+        return {};
     }
+    if (const auto other = otherShortestCourse(page, metres, initial, final)) {
+        page.setNote("Antipodal: no single shortest way; initial course " +
+                     courseText(initial, page.symbols()) + " or " +
+                     courseText(*other, page.symbols()) + " is as short");
+        return {};
+    }
+    page.setValue(InitialCourse, places::compass(initial));
+    page.setValue(FinalCourse, places::compass(final));
     return {};
 }
 

@@ -10,6 +10,7 @@
 #include "page/units.h"
 
 #include <chrono>
+#include <cmath>
 
 namespace zel {
 namespace {
@@ -36,6 +37,9 @@ constexpr double LastDay = 20291231;
 /// Near the magnetic poles the horizontal field is too weak for a compass
 /// to settle, and the variation swings widely over a short distance.
 constexpr double WeakestHorizontalField = 2000; // nT
+/// Below this the model's makers mark a caution zone: the compass still
+/// settles, but slowly and with errors that grow as the field weakens.
+constexpr double CautionHorizontalField = 6000; // nT
 
 /// The day as a decimal year: 2025.0 is the first of January 2025.
 double decimalYear(std::chrono::year_month_day day) {
@@ -88,6 +92,11 @@ Report convertVariation(PageSheet& page, double x, int& inputRow) {
         page.forgetGiven(True);
         page.forgetGiven(Magnetic);
         return {};
+    }
+    if (field.horizontal < CautionHorizontalField) {
+        page.setNote("Caution: weak horizontal field (" +
+                     formatNumber(std::round(field.horizontal), "#,##0", page.symbols()) +
+                     " nT), compass less reliable");
     }
     page.setValue(Variation, field.declination);
     page.setValue(AnnualChange, field.declinationPerYear);

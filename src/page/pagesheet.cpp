@@ -57,6 +57,7 @@ double PageSheet::divide(double a, double b) {
 }
 
 void PageSheet::reset() {
+    m_note.clear();
     for (int row = 1; row <= Rows; ++row) {
         RowCell& cell = (*this)[row];
         cell.value.reset();

@@ -64,6 +64,11 @@ class PageSheet {
     void setSingle(int row, float value);
     /// The words a text row shows.
     void setText(int row, std::string text);
+    /// What the page says of its results as a whole, beside the rows: "Caution:
+    /// weak horizontal field (3,300 nT), compass less reliable". Each
+    /// calculation says it afresh; empty for nothing.
+    const std::string& note() const { return m_note; }
+    void setNote(std::string note) { m_note = std::move(note); }
     /// No number and no text.
     void clear(int row);
 
@@ -102,6 +107,7 @@ class PageSheet {
     const Symbols& m_symbols;
     std::array<RowCell, Rows + 1> m_rows{}; // rows 1..8; 0 unused
     std::array<double, Rows + 1> m_factors{};
+    std::string m_note;
     int m_lastGiven = 0;
     Faulted m_fault;
     std::chrono::year_month_day m_today{std::chrono::year{2000} / 1 / 1};

@@ -5,6 +5,7 @@
 #include "entry/fault.h"
 #include "page/pagesheet.h"
 
+#include <algorithm>
 #include <array>
 #include <cstdint>
 #include <optional>
@@ -204,6 +205,11 @@ struct PageTable {
     const RowSpec& row(int row) const { return rows.at(static_cast<std::size_t>(row - 1)); }
     bool isText() const { return decode != nullptr; }
     bool hasFormulas() const { return !formulas.relations.empty() || formulas.derive != nullptr; }
+    /// Whether the page takes places: it has a latitude row.
+    bool takesPlaces() const {
+        return std::any_of(rows.begin(), rows.end(),
+                           [](const RowSpec& r) { return r.form == Form::Latitude; });
+    }
     /// A row that only shows results: a typed value put into it beeps.
     bool outputOnly(int index) const;
 };

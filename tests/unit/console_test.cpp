@@ -31,7 +31,7 @@ TEST(Console, RejectsLinesItCannotRead) {
         {"keyup f13", "keyup takes enter, escape or f1 to f12"},
         {"key delete", "key takes backspace"},
         {"answer maybe", "answer takes yes, no, cancel or text TEXT"},
-        {"show now", "show takes nothing, display, sheet, rows or row N"},
+        {"show now", "show takes nothing, display, hint, note, sheet, rows or row N"},
         {"fly", "unknown command: fly"},
         {"type", "type needs the text to type"},
     };

@@ -79,7 +79,16 @@ TEST(VariationPage, TurnsTrueToMagneticAtAPlaceAndDate) {
         {"no date: today's", Variation, "80@1 0@2", "4:2026-11-22"},
         // Near the south magnetic pole the horizontal field is under 2,000 nT.
         {"by the magnetic pole", Variation, "-64@1 135.7@2 20250101@4 90@7",
-         "5:Unreliable | 6: | 7: | 8:"},
+         "5:Unreliable | 6: | 7: | 8: | ~"},
+        // Between 2,000 and 6,000 nT the model's makers mark a caution zone.
+        {"the model's first test point, 6,523.2 nT: no caution", Variation, "80@1 0@2 20250101@4",
+         "5:E 1.28 | ~"},
+        {"Resolute Bay: a weak field, a caution", Variation, "74.72@1 -94.97@2 20261125@4 100@7",
+         "5:W 14.62 | 8:115 | ~Caution: weak horizontal field (3,364 nT), compass less reliable"},
+        {"the caution stands through a refused date", Variation,
+         "74.72@1 -94.97@2 20261125@4 20300101@4",
+         "~Caution: weak horizontal field (3,364 nT), compass less reliable | !exclamation "
+         "Variation: Invalid date (WMM2025: 20241113 - 20291231)"},
         {"before the model's life", Variation, "20241112@4",
          "!exclamation Variation: Invalid date (WMM2025: 20241113 - 20291231)"},
         {"after it", Variation, "20300101@4",
@@ -105,8 +114,29 @@ TEST(GreatCirclePage, GivesTheGeodesicOnTheEllipsoid) {
         {"Wellington to Salamanca", GreatCircle, "-41.32@1 174.81@2 40.96@3 -5.5@4",
          "6:19,959.68 | 7:161 | 8:019"},
         {"the same place twice", GreatCircle, "51@1 0@2 51@3 0@4", "5:0.00 | 7: | 8:"},
-        {"antipodes on the equator: over a pole", GreatCircle, "0@1 0@2 0@3 180@4",
-         "6:20,003.93 | 7:360 | 8:180"},
+        // Antipodal places are joined over either pole, equally short; on
+        // the equator that holds from (1 - f) x 180 = 179.4° of longitude on
+        // (Karney, Algorithms for geodesics, 2013), below it the equator is
+        // the one shortest way.
+        {"antipodes on the equator: over either pole", GreatCircle, "0@1 0@2 0@3 180@4",
+         "6:20,003.93 | 7: | 8: | ~Antipodal: no single shortest way; initial course 360 or 180 "
+         "is as short"},
+        {"antipodes at 40°: over either pole", GreatCircle, "40@1 10@2 -40@3 -170@4",
+         "7: | ~Antipodal: no single shortest way; initial course 360 or 180 is as short"},
+        {"179.8° apart on the equator: two ways past the poles", GreatCircle, "0@1 0@2 0@3 179.8@4",
+         "7: | ~Antipodal: no single shortest way; initial course 019 or 161 is as short"},
+        {"179° apart on the equator: along it", GreatCircle, "0@1 0@2 0@3 179@4", "7:090 | ~"},
+        // GeodSolve -i: 30 0 -30 120 gives 105.95 out and in.
+        {"mirrored across the equator, far from antipodal", GreatCircle, "30@1 0@2 -30@3 120@4",
+         "7:106 | 8:106 | ~"},
+        // 0.005° of latitude past the antipode the way over the north pole is
+        // 0.01° of meridian (0.6 nm) longer: as good as the same; at 0.02°
+        // (2.4 nm) the way over the south pole is the shortest.
+        {"0.6 nm between the two ways", GreatCircle, "40@1 10@2 -40.005@3 -170@4",
+         "7: | 8: | 6:20,003.38 | ~Antipodal: no single shortest way; initial course 180 or 360 "
+         "is as short"},
+        {"2.4 nm between the two ways", GreatCircle, "40@1 10@2 -40.02@3 -170@4",
+         "7:180 | 8:360 | 6:20,001.71 | ~"},
         {"from the north pole", GreatCircle, "90@1 0@2 0@3 0@4", "6:10,001.97 | 7:180 | 8:180"},
         {"one place is not a leg", GreatCircle, "40.6@1 -73.8@2 51.6@3", "5: | 7:"},
         {"longitude 181°", GreatCircle, "181@4",

@@ -254,6 +254,25 @@ TEST(TrackTime, RelatesDistanceTimeAndSpeedWithTheWind) {
     check(cases);
 }
 
+TEST(TrackTime, TakesATimeTypedWithAColon) {
+    const Scenario cases[] = {
+        {"300 nm in 1:30 is 200 kt", TrackTime, "300@2 1:30@3", "4=200 | 3:1:30 | #0."},
+        {"130 nm in 1:05 is 120 kt", TrackTime, "130@2 1:05@3", "4=120"},
+        {"0:45 of 200 kg/hr is 150 kg", Endurance, "200@2 0:45@7", "1:150.00 | 8:45.00"},
+        {"1:75 is refused", TrackTime, "300@2 1:75@3",
+         "3: | >2 | #1:75 | ?1:75 refused: minutes under 60 | !beep"},
+        {"a time goes into an h:mm row only", TrackTime, "1:30@2",
+         "2: | ?1:30 refused: a time goes into an h:mm row | !beep"},
+        {"two figures of minutes", TrackTime, "1:305@3", "3:1:30 | !beep"},
+        {"one colon", TrackTime, "1::30@3", "3:1:30 | !beep"},
+        {"no decimals after a colon", TrackTime, "1:3.0@3", "3:1:30 | !beep"},
+        {"no colon after decimals", TrackTime, "1.5:@3", "3:1:50 | !beep"},
+        {"the colon erased: 1 then 30 is 130 h", TrackTime, "1:{bs}30@3", "3:130:00"},
+        {"the h.mm entry stays", TrackTime, "1.30@3", "3:1:30"},
+    };
+    check(cases);
+}
+
 TEST(WindComp, SplitsTheWindAlongAndAcrossTheRunway) {
     const Scenario cases[] = {
         {"straight down the runway", WindComp, "270@1 20@2 270@3", "6:H 20.00 | 8:0.00"},

@@ -15,7 +15,8 @@ namespace zel::test {
 /// on; "@4" clicks row 4 with nothing typed, and in what is typed "{mrc}"
 /// presses MRC and "{bs}" Backspace. `expect` is a list split by "|": "2=2205" row 2's tag,
 /// "7:R 11.31" row 7's caption ("8:" an empty one), "!beep" what the user was told, in order
-/// (nothing, when no such item is given), ">4" the input row, "#300." the display.
+/// (nothing, when no such item is given), ">4" the input row, "#300." the display,
+/// "~Caution: ..." the page's note, "?..." the hint.
 struct Scenario {
     const char* name;
     int page;
@@ -77,6 +78,10 @@ inline void check(const Scenario& c) {
                 EXPECT_EQ(calc.menu.row(row).input, row == std::stoi(item.substr(1)))
                     << name << ", input row " << row;
             }
+        } else if (item.starts_with('?')) {
+            EXPECT_EQ(calc.view().hint, item.substr(1)) << name;
+        } else if (item.starts_with('~')) {
+            EXPECT_EQ(calc.view().note, item.substr(1)) << name;
         } else if (item.starts_with('#')) {
             EXPECT_EQ(calc.view().display, item.substr(1)) << name;
         } else if (const int row = rowOf(item, mark); row > 0) {
