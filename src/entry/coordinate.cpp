@@ -6,7 +6,6 @@
 
 #include <algorithm>
 #include <array>
-#include <charconv>
 #include <cmath>
 #include <span>
 
@@ -101,13 +100,12 @@ Tokens tokenize(std::string_view text) {
                     return out;
                 }
             }
-            const auto [end, error] =
-                std::from_chars(number.data(), number.data() + number.size(), token.value);
-            if (error != std::errc{} || end != number.data() + number.size() ||
-                !std::isfinite(token.value)) {
+            const auto value = readRegional(number, Symbols{".", ","});
+            if (!value || !std::isfinite(*value)) {
                 out.problem = "Its figures are too many for a coordinate.";
                 return out;
             }
+            token.value = *value;
             token.kind = Token::Number;
         } else if (c == '+' || takeMark(text, at, Minus)) {
             at += c == '+' ? 1 : 0;

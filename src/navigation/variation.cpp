@@ -96,7 +96,7 @@ Report convertVariation(PageSheet& page, double x, int& inputRow) {
     if (field.horizontal < CautionHorizontalField) {
         page.setNote("Caution: weak horizontal field (" +
                      formatNumber(std::round(field.horizontal), "#,##0", page.symbols()) +
-                     " nT), compass less reliable");
+                     "\u00A0nT), compass less reliable"); // figure and unit on one line
     }
     page.setValue(Variation, field.declination);
     page.setValue(AnnualChange, field.declinationPerYear);

@@ -10,6 +10,8 @@
 #include <QEvent>
 #include <QFile>
 #include <QImageReader>
+#include <QLabel>
+#include <QLineEdit>
 #include <QPainter>
 #include <QTimer>
 
@@ -204,6 +206,54 @@ void MenuWindow::buildPageFace() {
     m_loadingSheet = frame(Look::Sheet, m_pageFace, QRect(11, 110, 273, m_designHeight - 36 - 118));
     m_loadingSheet->setAccessibleName(QStringLiteral("Loading sheet"));
     m_loadingSheet->hide();
+    buildPlaceAndNote();
+}
+
+void MenuWindow::buildPlaceAndNote() {
+    // The room between the rows and the window's foot: 80 points.
+    const int top = 110 + 8 * RowHeight + 22;
+    m_placeEntry = new QLineEdit(m_pageFace);
+    m_placeEntry->setPlaceholderText(QStringLiteral("N51°28.65′ W000°27.68′"));
+    m_placeEntry->setAccessibleName(QStringLiteral("Coordinates"));
+    m_placeEntry->setToolTip(
+        QStringLiteral("A place as pilots write it; Enter puts it on the page"));
+    // Typing goes to the calculator until the field is clicked or tabbed to.
+    m_placeEntry->setFocusPolicy(Qt::StrongFocus);
+    m_placed.push_back({m_placeEntry, QRect(11, top, 273, 26), std::nullopt});
+    connect(m_placeEntry, &QLineEdit::returnPressed, this, [this] {
+        const std::string typed = m_placeEntry->text().toStdString();
+        if (typed.find_first_not_of(" \t") == std::string::npos) {
+            return;
+        }
+        act([this, &typed] { m_menu.paste(typed); });
+        if (m_menu.view().requests.empty()) {
+            m_placeEntry->clear(); // taken; a refusal leaves the text to correct
+            setFocus();
+        }
+    });
+    m_note = new QLabel(m_pageFace);
+    m_note->setWordWrap(true);
+    m_note->setAccessibleName(QStringLiteral("Note"));
+    m_placed.push_back({m_note, QRect(11, top + 28, 273, 50), std::nullopt});
+}
+
+void MenuWindow::renderPlaceAndNote(const View& view) {
+    const bool page = view.face == Face::Page && !view.loading;
+    m_placeEntry->setVisible(page && view.places);
+    QFont font = m_placeEntry->font();
+    font.setPixelSize(qRound(13 * m_zoom));
+    m_placeEntry->setFont(font);
+    font.setPixelSize(qRound(12 * m_zoom));
+    m_note->setVisible(page && !view.note.empty());
+    m_note->setText(text(view.note));
+    font.setBold(true);
+    m_note->setFont(font);
+    const TextColours& colours = textColours(m_night);
+    m_note->setStyleSheet(QStringLiteral("color: %1; border-left: %2px solid #ffbe00; "
+                                         "padding-left: %3px;")
+                              .arg(colours.row.name())
+                              .arg(qRound(4 * m_zoom))
+                              .arg(qRound(6 * m_zoom)));
 }
 
 void MenuWindow::buildCalculator(QWidget* panel) {
@@ -390,6 +440,7 @@ void MenuWindow::render() {
         m_display->setToolTip(m_display->fit().shortened ? m_display->caption() : QString());
     }
     renderRows(view);
+    renderPlaceAndNote(view);
     if (view.face != m_shownFace) {
         // A keyboard user keeps a place to start from on the other face: the
         // page's own button on the menu, the window itself on a page.

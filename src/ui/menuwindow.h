@@ -14,6 +14,8 @@
 #include <set>
 #include <vector>
 
+class QLabel;
+class QLineEdit;
 class QMenu;
 
 namespace zel {
@@ -103,6 +105,10 @@ class MenuWindow : public QWidget {
     void buildPageFace();
     void buildCalculator(QWidget* panel);
     void buildRows(QWidget* panel);
+    /// Under the rows: the field for a place as pilots write it, and the
+    /// page's note on its results.
+    void buildPlaceAndNote();
+    void renderPlaceAndNote(const View& view);
     /// A frame of the window, placed at its 100 % geometry and looking as `look`.
     ZelFrame* frame(Look look, QWidget* parent, QRect geometry, const QString& caption = {});
     /// Runs one event handler of Menu, then draws the result.
@@ -167,6 +173,8 @@ class MenuWindow : public QWidget {
         std::optional<Look> look;
     };
     std::vector<Placed> m_placed;
+    QLineEdit* m_placeEntry = nullptr;
+    QLabel* m_note = nullptr;
     qreal m_zoom = 1;
     bool m_night = false;
     bool m_nightChosen = false; ///< the user chose the palette; else the desktop's

@@ -84,10 +84,10 @@ TEST(VariationPage, TurnsTrueToMagneticAtAPlaceAndDate) {
         {"the model's first test point, 6,523.2 nT: no caution", Variation, "80@1 0@2 20250101@4",
          "5:E 1.28 | ~"},
         {"Resolute Bay: a weak field, a caution", Variation, "74.72@1 -94.97@2 20261125@4 100@7",
-         "5:W 14.62 | 8:115 | ~Caution: weak horizontal field (3,364 nT), compass less reliable"},
+         "5:W 14.62 | 8:115 | ~Caution: weak horizontal field (3,364\u00A0nT), compass less reliable"},
         {"the caution stands through a refused date", Variation,
          "74.72@1 -94.97@2 20261125@4 20300101@4",
-         "~Caution: weak horizontal field (3,364 nT), compass less reliable | !exclamation "
+         "~Caution: weak horizontal field (3,364\u00A0nT), compass less reliable | !exclamation "
          "Variation: Invalid date (WMM2025: 20241113 - 20291231)"},
         {"before the model's life", Variation, "20241112@4",
          "!exclamation Variation: Invalid date (WMM2025: 20241113 - 20291231)"},

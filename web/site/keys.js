@@ -66,6 +66,11 @@ export function setUpKeys(act, face) {
       const theFieldsOwn = !control && !event.altKey && key !== 'Escape' && !/^F([1-9]|1[0-2])$/.test(key);
       if (theFieldsOwn) return;
     }
+    if (event.target === $('place-entry')) {
+      // The coordinate field edits its text itself; Enter submits it.
+      const theFieldsOwn = !control && !event.altKey && key !== 'Escape' && !/^F([1-9]|1[0-2])$/.test(key);
+      if (theFieldsOwn || (control && /^[vVcCxXaAzZ]$/.test(key))) return;
+    }
     if (event.target.matches && event.target.matches('#loading input, #loading select')) {
       // A field of the Weight & Balance page takes its own keys.
       const theFieldsOwn = !control && !event.altKey && key !== 'Escape' && !/^F([1-9]|1[0-2])$/.test(key);
@@ -98,7 +103,8 @@ export function setUpKeys(act, face) {
   });
   document.addEventListener('paste', (event) => {
     const target = event.target instanceof Element ? event.target : null;
-    if (target === $('report-entry') || (target && target.closest('#loading'))) return;
+    if (target === $('report-entry') || target === $('place-entry') ||
+        (target && target.closest('#loading'))) return;
     event.preventDefault();
     const text = event.clipboardData ? event.clipboardData.getData('text/plain') : '';
     act((calc) => calc.paste(text));

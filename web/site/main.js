@@ -146,6 +146,21 @@ function setUpReportField() {
   });
 }
 
+function setUpPlaceField() {
+  // A coordinate as pilots write it, typed on the screen's own keyboard or
+  // pasted: Enter hands it to the page as a paste, and an empty field is
+  // ready for the next place once the page took it.
+  const form = $('place-form');
+  const entry = $('place-entry');
+  form.addEventListener('submit', (event) => {
+    event.preventDefault();
+    const text = entry.value;
+    if (text.trim() === '') return;
+    act((c) => c.paste(text));
+    if (!boxOpen()) entry.value = ''; // a refusal leaves the text to correct
+  });
+}
+
 function setUpBack() {
   window.addEventListener('popstate', () => {
     if (!drawn || drawn.face !== 'page') return;
@@ -177,6 +192,7 @@ async function start(filesRead) {
     keyboardUser: (yes) => { keyboardUser = yes; },
   });
   setUpReportField();
+  setUpPlaceField();
   setUpBack();
   $('profile-file').addEventListener('change', async (event) => {
     const [file] = event.target.files;

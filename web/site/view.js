@@ -158,6 +158,9 @@ export function render(view, previous, keyboardUser) {
   if (view.report && document.activeElement !== entry) entry.value = view.display;
   $('hint').hidden = view.hint === '';
   $('hint').textContent = view.hint;
+  $('place-form').hidden = !view.places;
+  $('note').hidden = view.note === '';
+  $('note').textContent = view.note;
   $('keypad').hidden = view.report;
   $('report-enter').hidden = !view.report;
   const decimal = document.querySelector('[data-key="decimal"]');

@@ -5,7 +5,7 @@
 import { test, expect } from '@playwright/test';
 import { mkdirSync } from 'node:fs';
 import { join } from 'node:path';
-import { open, answerBoxes } from './face.mjs';
+import { open, answerBoxes, boxText } from './face.mjs';
 
 const shots = process.env.ZEL_SCREENSHOTS;
 
@@ -78,6 +78,57 @@ test.describe('phone', () => {
     await tapKeys(page, '1.60');
     await page.locator('#rows .row:nth-child(7)').click();
     await expect(hint).toHaveText('1.60 refused: minutes under 60');
+  });
+
+  test('a place is typed in its field on the screen keyboard, and a time with a colon', async ({ page }) => {
+    await open(page);
+    await openPage(page, 30);
+    const field = page.getByRole('textbox', { name: 'Coordinates' });
+    await expect(field).toBeVisible();
+    await expect(field).toHaveAttribute('type', 'text'); // the screen's own keyboard, letters and all
+    // JFK's and Heathrow's reference points, as the FAA and the UK AIP write them.
+    await field.tap();
+    await page.keyboard.type('40°38\'23.74"N 073°46\'43.29"W');
+    await page.keyboard.press('Enter');
+    await expect(field).toHaveValue('');
+    await field.tap();
+    await page.keyboard.type('512839N0002741W');
+    await page.getByRole('button', { name: 'Enter the place' }).tap();
+    await expect(page.locator('#rows .row:nth-child(1) .value')).toHaveText('N 40°38.40′');
+    await expect(page.locator('#rows .row:nth-child(4) .value')).toHaveText('W 000°27.68′');
+    await expect(page.locator('#rows .row:nth-child(5) .value')).toHaveText('2,999.09');
+    if (shots) {
+      mkdirSync(shots, { recursive: true });
+      await page.screenshot({ path: join(shots, 'web_phone_great_circle_typed.png') });
+    }
+    // A paste into the field is the field's; what cannot be read is said, and stays to correct.
+    await field.tap();
+    await page.keyboard.type('51 28');
+    await page.keyboard.press('Enter');
+    await expect(page.locator('#dialog')).toHaveAttribute('open', '');
+    expect(await boxText(page)).toContain('It can be read more than one way');
+    await page.locator('#dialog-yes').click();
+    await expect(field).toHaveValue('51 28');
+    // Antipodes: the page says there is no single course.
+    await page.locator('#clear').tap();
+    await page.locator('#clear').tap();
+    await field.fill('40, 10');
+    await field.press('Enter');
+    await field.fill('-40, -170');
+    await field.press('Enter');
+    await expect(page.locator('#note')).toHaveText(
+      'Antipodal: no single shortest way; initial course 360 or 180 is as short');
+    // Track Time has no place field; 1:30 is typed with the colon.
+    await page.locator('#menu-button').tap();
+    await openPage(page, 15);
+    await expect(field).toBeHidden();
+    await tapKeys(page, '100');
+    await page.locator('#rows .row:nth-child(2)').tap();
+    await page.locator('#app').focus();
+    await page.keyboard.type('1:30');
+    await expect(page.locator('#display')).toHaveText('1:30');
+    await page.locator('#rows .row:nth-child(3)').tap();
+    await expect(page.locator('#rows .row:nth-child(4) .value')).toHaveText('66.67');
   });
 
   test('a screen reader hears the input row, the given rows and results, not keystrokes', async ({ page }) => {
