@@ -411,7 +411,7 @@ class Calculator {
     }
     void pressDigits() { m_menu.pressDigits(); }
     void clear() { m_menu.clear(); }
-    void paste(const std::string& text) { m_menu.paste(text); }
+    bool paste(const std::string& text) { return m_menu.paste(text); }
     void writeReport(const std::string& text) { m_menu.writeReport(text); }
     void enterReport(const std::string& text) { m_menu.enterReport(text); }
     void answer(int id, bool yes, const val& text) {

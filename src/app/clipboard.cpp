@@ -177,25 +177,24 @@ bool Menu::takeReport(std::string_view text) {
     return true;
 }
 
-void Menu::paste(std::string_view text) {
+bool Menu::paste(std::string_view text) {
     if (blocked() || m_face != Face::Page) {
-        return;
+        return false;
     }
     if (textPage()) {
-        takeReport(text);
-        return;
+        return takeReport(text);
     }
     const bool places = m_table->takesPlaces();
     if (isClockTime(text)) {
         typePasted(trimmedBlanks(text)); // "1:30", for an h:mm row
-        return;
+        return true;
     }
     std::string problem;
     bool ambiguous = false;
     if (places) {
         const CoordinateReading read = readCoordinates(text);
         if (read && pasteCoordinates(read.coordinates)) {
-            return;
+            return !blocked();
         }
         problem = read.problem;
         ambiguous = read.ambiguous;
@@ -208,7 +207,7 @@ void Menu::paste(std::string_view text) {
                           : pastedNumber(std::string(text), m_symbols);
     if (!keys && text.find_first_not_of(" \t\r\n") == std::string_view::npos) {
         m_platform.ui.beep(); // an empty clipboard
-        return;
+        return false;
     }
     if (!keys) {
         // Not one number: nothing changes, and the user is told what was refused.
@@ -221,9 +220,10 @@ void Menu::paste(std::string_view text) {
             paragraphs.push_back(problem);
         }
         m_requests.message(MessageIcon::Exclamation, title(), paragraphs);
-        return;
+        return false;
     }
     typePasted(*keys);
+    return true;
 }
 
 void Menu::typePasted(std::string_view keys) {

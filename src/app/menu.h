@@ -100,8 +100,9 @@ class Menu {
     void clear();
     /// Text pasted into the entry (clipboard.cpp): on a number page one
     /// number ("." or "," for the decimal symbol, grouping and a unit word
-    /// left out), else a message; on a report page the report.
-    void paste(std::string_view text);
+    /// left out), else a message; on a report page the report. False when
+    /// the text was refused (the user is told why) or nothing could take it.
+    bool paste(std::string_view text);
     /// A report written whole (in a text field, by a screen's keyboard that
     /// composes words) replaces the one typed, each character taken as its
     /// key would type it.

@@ -225,9 +225,10 @@ void MenuWindow::buildPlaceAndNote() {
         if (typed.find_first_not_of(" \t") == std::string::npos) {
             return;
         }
-        act([this, &typed] { m_menu.paste(typed); });
-        if (m_menu.view().requests.empty()) {
-            m_placeEntry->clear(); // taken; a refusal leaves the text to correct
+        bool taken = false;
+        act([this, &typed, &taken] { taken = m_menu.paste(typed); });
+        if (taken) {
+            m_placeEntry->clear(); // a refusal leaves the text to correct
             setFocus();
         }
     });

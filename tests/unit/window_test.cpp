@@ -17,6 +17,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMenu>
 #include <QPrinter>
 #include <QPushButton>
@@ -275,6 +276,47 @@ TEST_F(WindowTest, CopiesAndPastesThroughTheClipboard) {
     clipboard->setText("Runway state\r\n88290140\r\n");
     key(Qt::Key_V, Qt::ControlModifier);
     EXPECT_EQ(window.display()->caption(), "88290140");
+}
+
+TEST_F(WindowTest, APlaceIsTypedInItsFieldAndThePageSaysWhatItsCoursesCannot) {
+    auto* field = window.findChild<QLineEdit*>();
+    ASSERT_NE(field, nullptr);
+    key(Qt::Key_F1);
+    EXPECT_FALSE(field->isVisible()); // Weight takes no places
+    ASSERT_TRUE(calc.menu.openPage("great circle"));
+    window.render();
+    ASSERT_TRUE(field->isVisible());
+    EXPECT_EQ(field->accessibleName(), "Coordinates");
+    click(field);
+    QTest::keyClicks(field, QStringLiteral("N40 38 23.74 W073 46 43.29"));
+    EXPECT_EQ(window.display()->caption(), "0."); // the field's keys are the field's own
+    QTest::keyClick(field, Qt::Key_Return);
+    EXPECT_TRUE(field->text().isEmpty());
+    click(field);
+    QTest::keyClicks(field, QStringLiteral("512839N0002741W"));
+    QTest::keyClick(field, Qt::Key_Return);
+    EXPECT_EQ(window.valueCell(1)->caption(), "N 40°38.40′");
+    EXPECT_EQ(window.valueCell(4)->caption(), "W 000°27.68′");
+    EXPECT_EQ(window.valueCell(5)->caption(), "2,999.09");
+    // What cannot be read is said, and stays in the field to correct.
+    click(field);
+    QTest::keyClicks(field, QStringLiteral("51 28"));
+    QTest::keyClick(field, Qt::Key_Return);
+    EXPECT_TRUE(calc.lastEvent().starts_with("exclamation Great Circle: Not a coordinate: 51 28"));
+    EXPECT_EQ(field->text(), "51 28");
+    // Antipodes: no course, and a note that says why.
+    calc.menu.clear();
+    calc.menu.clear();
+    field->setText(QStringLiteral("40, 10"));
+    QTest::keyClick(field, Qt::Key_Return);
+    field->setText(QStringLiteral("-40, -170"));
+    QTest::keyClick(field, Qt::Key_Return);
+    EXPECT_EQ(window.valueCell(7)->caption(), "");
+    const auto labels = window.findChildren<QLabel*>();
+    const bool said = std::any_of(labels.begin(), labels.end(), [](QLabel* label) {
+        return label->isVisible() && label->text().startsWith("Antipodal: no single shortest way");
+    });
+    EXPECT_TRUE(said);
 }
 
 TEST_F(WindowTest, ScreenReadersFindEveryControlByName) {

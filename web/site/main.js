@@ -156,8 +156,7 @@ function setUpPlaceField() {
     event.preventDefault();
     const text = entry.value;
     if (text.trim() === '') return;
-    act((c) => c.paste(text));
-    if (!boxOpen()) entry.value = ''; // a refusal leaves the text to correct
+    if (act((c) => c.paste(text))) entry.value = ''; // a refusal leaves the text to correct
   });
 }
 
