@@ -245,15 +245,20 @@ void MenuWindow::renderPlaceAndNote(const View& view) {
     font.setPixelSize(qRound(13 * m_zoom));
     m_placeEntry->setFont(font);
     font.setPixelSize(qRound(12 * m_zoom));
-    m_note->setVisible(page && !view.note.empty());
-    m_note->setText(text(view.note));
-    font.setBold(true);
+    // The note on the results; else what to know about the input row, or
+    // why a value was refused ("1:75 refused: minutes under 60").
+    const bool note = !view.note.empty();
+    const std::string& said = note ? view.note : view.hint;
+    m_note->setVisible(page && !said.empty());
+    m_note->setText(text(said));
+    font.setBold(note);
     m_note->setFont(font);
     const TextColours& colours = textColours(m_night);
-    m_note->setStyleSheet(QStringLiteral("color: %1; border-left: %2px solid #ffbe00; "
-                                         "padding-left: %3px;")
+    m_note->setStyleSheet(QStringLiteral("color: %1; border-left: %2px solid %3; "
+                                         "padding-left: %4px;")
                               .arg(colours.row.name())
                               .arg(qRound(4 * m_zoom))
+                              .arg(note ? QStringLiteral("#ffbe00") : QStringLiteral("transparent"))
                               .arg(qRound(6 * m_zoom)));
 }
 

@@ -317,6 +317,16 @@ TEST_F(WindowTest, APlaceIsTypedInItsFieldAndThePageSaysWhatItsCoursesCannot) {
         return label->isVisible() && label->text().startsWith("Antipodal: no single shortest way");
     });
     EXPECT_TRUE(said);
+    // A refused time says why under the rows.
+    key(Qt::Key_Escape);
+    ASSERT_TRUE(calc.menu.openPage("track time"));
+    window.render();
+    type("1:75");
+    key(Qt::Key_3, Qt::ControlModifier);
+    const auto shown = window.findChildren<QLabel*>();
+    EXPECT_TRUE(std::any_of(shown.begin(), shown.end(), [](QLabel* label) {
+        return label->isVisible() && label->text() == "1:75 refused: minutes under 60";
+    }));
 }
 
 TEST_F(WindowTest, ScreenReadersFindEveryControlByName) {
