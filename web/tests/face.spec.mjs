@@ -125,9 +125,10 @@ test.describe('layout', () => {
     await paste("N40°36' W073°48'");
     await paste("N51°36' W000°30'");
     await expect(page.locator('#value-5')).toHaveText('2,997.71');
-    // The degrees and minutes in the tooltip and for a screen reader.
-    expect(await page.locator('.row').first().getAttribute('title')).toBe('N 40°36.00′');
-    await expect(page.locator('#note-2')).toHaveText(/W 073°48.00′/);
+    // Degrees and minutes in the row, the decimal degrees in the tooltip and for a screen reader.
+    await expect(page.locator('#value-1')).toHaveText('N 40°36.00′');
+    expect(await page.locator('.row').first().getAttribute('title')).toBe('40.6°');
+    await expect(page.locator('#note-2')).toHaveText(/-73\.8°/);
     await shoot('great_circle');
     await page.locator('#menu-button').click();
     await openPage(page, 29);
