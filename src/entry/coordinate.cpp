@@ -32,9 +32,8 @@ constexpr std::string_view OnlyTwo = "A position is one latitude and one longitu
 struct Token {
     enum Kind { Number, Sign, Letter, Degrees, Minutes, Seconds, Separator };
     Kind kind = Number;
-    double value = 0;     ///< a number's value; a sign's -1 or +1
-    int wholeFigures = 0; ///< a number's figures before its decimal point
-    std::string figures;  ///< a number's figures before its decimal point
+    double value = 0;    ///< a number's value; a sign's -1 or +1
+    std::string figures; ///< a number's figures before its decimal point
     bool fraction = false;
     char letter = 0; ///< N, S, E or W
     bool blankBefore = false;
@@ -85,7 +84,6 @@ Tokens tokenize(std::string_view text) {
                 ++at;
             }
             token.figures = std::string(text.substr(start, at - start));
-            token.wholeFigures = static_cast<int>(at - start);
             std::string number = token.figures;
             const bool point = at < text.size() && text[at] == '.';
             const bool comma = at < text.size() && text[at] == ',' && !decimalPoint;
@@ -230,8 +228,9 @@ std::optional<std::vector<Chunk>> splitCoordinates(const Chunk& chunk, std::stri
 /// to the last.
 std::optional<double> packedDegrees(const Token& number, Axis axis, std::string& problem) {
     const int degreeFigures = axis == Axis::Longitude ? 3 : 2;
-    const int parts = (number.wholeFigures - degreeFigures) / 2;
-    if (number.wholeFigures - degreeFigures != parts * 2 || parts > 2) {
+    const int wholeFigures = static_cast<int>(number.figures.size());
+    const int parts = (wholeFigures - degreeFigures) / 2;
+    if (wholeFigures - degreeFigures != parts * 2 || parts > 2) {
         problem = axis == Axis::Longitude
                       ? "A longitude's figures run together are DDDMM or DDDMMSS."
                       : "A latitude's figures run together are DDMM or DDMMSS.";
@@ -308,7 +307,7 @@ std::optional<Coordinate> readOne(const Chunk& chunk, std::string& problem) {
     const Token& first = numbers.front().first;
     // Four figures or more before the point are never degrees alone.
     if (numbers.size() == 1 && numbers.front().second == Token::Number && c.axis != Axis::Either &&
-        first.wholeFigures >= 4) {
+        first.figures.size() >= 4) {
         const auto packed = packedDegrees(first, c.axis, problem);
         if (!packed) {
             return std::nullopt;

@@ -568,14 +568,18 @@ void LoadingPanel::print(QPrinter& printer) {
     }
 }
 
+LoadingPanel::~LoadingPanel() = default;
+
 void LoadingPanel::printSheet() {
-    QPrinter printer(QPrinter::HighResolution);
-    printer.setDocName(text(m_view.heading));
-    QPrintDialog dialog(&printer, this);
-    dialog.setWindowTitle(QStringLiteral("Print the loading sheet"));
-    if (dialog.exec() == QDialog::Accepted) {
-        print(printer);
-    }
+    // The box answers later, through its signal: the printer outlives this call.
+    m_printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
+    m_printer->setDocName(text(m_view.heading));
+    auto* dialog = new QPrintDialog(m_printer.get(), this);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setWindowTitle(QStringLiteral("Print the loading sheet"));
+    connect(dialog, qOverload<QPrinter*>(&QPrintDialog::accepted), this,
+            [this](QPrinter* printer) { print(*printer); });
+    dialog->open();
 }
 
 } // namespace zel

@@ -7,6 +7,7 @@
 #include <QScrollArea>
 
 #include <functional>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -29,6 +30,7 @@ class LoadingPanel : public QScrollArea {
   public:
     using Act = std::function<void(const std::function<void()>&)>;
     LoadingPanel(Menu& menu, Act act, QWidget* parent = nullptr);
+    ~LoadingPanel() override;
 
     /// Draws the page as the view has it; what has not changed is left as it is.
     void render(const balance::LoadingView& view, bool night, qreal zoom);
@@ -55,7 +57,8 @@ class LoadingPanel : public QScrollArea {
     Menu& m_menu;
     Act m_act;
     balance::LoadingView m_view;
-    std::string m_shown; ///< what the widgets now show, to rebuild only on a change
+    std::unique_ptr<QPrinter> m_printer; ///< the printer the open print box sets up
+    std::string m_shown;                 ///< what the widgets now show, to rebuild only on a change
     bool m_night = false;
     qreal m_zoom = 1;
     QWidget* m_content = nullptr;
