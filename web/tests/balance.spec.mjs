@@ -111,6 +111,7 @@ test.describe('weight and balance', () => {
   test('a file that is no profile is refused with its reason; the kept ones stay', async ({ page }) => {
     await openWeightAndBalance(page);
     await importProfile(page, 'skyhawk.json');
+    await expect(page.locator('#aircraft option:checked')).toHaveText('D-EZEL');
     const before = await page.locator('#aircraft option').allTextContents();
     for (const [file, reason] of [
       ['not-json.json', "line 4: syntax error while parsing object - unexpected string literal; expected '}'"],
