@@ -25,9 +25,9 @@ std::variant<double, std::string> stationWeight(std::string_view text, const Air
         number = text.substr(0, blank);
         word = text.substr(blank + 1);
     }
-    const auto value = readRegional(number, symbols);
+    const auto value = readFigure(number, symbols);
     if (!value || !std::isfinite(*value)) {
-        return "not a number: " + std::string(text);
+        return "Not a number: " + std::string(number);
     }
     if (*value < 0) {
         return "a negative quantity: " + std::string(text);

@@ -335,6 +335,34 @@ double readNumber(std::string_view text, const Symbols& symbols) {
     return *readRegional(text, symbols);
 }
 
+std::optional<double> readFigure(std::string_view text, const Symbols& symbols) {
+    const auto value = readRegional(text, symbols);
+    if (!value || symbols.grouping.empty() || text.find(symbols.grouping) == text.npos) {
+        return value;
+    }
+    // The whole part: from the first digit to the decimal symbol or the exponent.
+    const std::size_t first = text.find_first_of("0123456789");
+    std::size_t end = symbols.decimal.empty() ? text.npos : text.find(symbols.decimal, first);
+    end = std::min({end, text.find_first_of("eE", first), text.find_last_of("0123456789") + 1});
+    const std::string_view whole = text.substr(first, end - first);
+    if (whole.find(symbols.grouping) == whole.npos) {
+        return std::nullopt; // a grouping symbol after the decimal one
+    }
+    std::size_t group = 0;
+    for (std::size_t at = 0;; ++group) {
+        const std::size_t next = std::min(whole.find(symbols.grouping, at), whole.size());
+        const std::size_t digits = next - at;
+        if (digits == 0 || digits > 3 || (group > 0 && digits != 3)) {
+            return std::nullopt;
+        }
+        if (next == whole.size()) {
+            break;
+        }
+        at = next + symbols.grouping.size();
+    }
+    return value;
+}
+
 double roundSignificant(double value, int digits) {
     const Decimal d = toDecimal(value, digits);
     if (d.digits.empty()) {

@@ -45,6 +45,11 @@ std::string formatNumber(double value, std::string_view pattern, const Symbols& 
 /// Returns nothing for any other text, or for a value beyond the double range.
 std::optional<double> readRegional(std::string_view text, const Symbols& symbols);
 
+/// Reads a figure as readRegional does, with the grouping symbol only where
+/// it separates groups of three digits before the decimal symbol ("1,705.5"):
+/// "2.5" in Germany or "170,5" in the US is no number, never 25 or 1,705.
+std::optional<double> readFigure(std::string_view text, const Symbols& symbols);
+
 /// The value of a number being typed, 0 for anything that is not a number.
 /// Where the decimal symbol is "." the text is read from its start the way a
 /// plain-number reader does (it stops at the first character that cannot continue

@@ -165,3 +165,38 @@ TEST(GeneralText, RoundTripsThroughReading) {
 
 } // namespace
 } // namespace zel::test
+
+namespace zel {
+namespace {
+
+TEST(ReadFigure, GroupingOnlyBetweenGroupsOfThree) {
+    using test::Dot;
+    const Symbols german{",", "."};
+    struct Case {
+        const char* text;
+        const Symbols& symbols;
+        std::optional<double> value;
+    } cases[] = {
+        {"2.5", Dot, 2.5},
+        {"2.5", german, std::nullopt}, // never 25
+        {"2,5", german, 2.5},
+        {"170,5", Dot, std::nullopt}, // never 1,705
+        {"1,705.5", Dot, 1705.5},
+        {"1.705,5", german, 1705.5},
+        {"12,345,678", Dot, 12345678},
+        {"-1,234", Dot, -1234},
+        {" 1,234 ", Dot, 1234},
+        {"1,2345", Dot, std::nullopt},
+        {"1234,567", Dot, std::nullopt},
+        {",123", Dot, std::nullopt},
+        {"1,,234", Dot, std::nullopt},
+        {"1,234e2", Dot, 123400},
+        {"x", Dot, std::nullopt},
+    };
+    for (const Case& c : cases) {
+        EXPECT_EQ(readFigure(c.text, c.symbols), c.value) << c.text;
+    }
+}
+
+} // namespace
+} // namespace zel
