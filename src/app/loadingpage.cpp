@@ -20,7 +20,7 @@ void Menu::clickEntry(int entry) {
         }
         return;
     }
-    const Report report = m_balance.enter(entry, m_pad.inputValue());
+    const Report report = m_balance.enter(entry, m_pad.inputValue(), m_symbols);
     show(report);
     if (report.kind == Report::Kind::None) {
         clearEntry();

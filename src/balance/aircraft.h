@@ -60,6 +60,11 @@ struct FuelTank {
     double usable = 0;
     double density = 0;
     double unusable = 0;
+    /// Fuel allowed for engine start, taxi and run-up, as a weight in the
+    /// profile's weight unit (as handbooks' sample loadings and airlines'
+    /// load sheets give it): burnt between the ramp and the takeoff, so
+    /// Takeoff = Ramp - taxi fuel.
+    double taxi = 0;
 };
 
 /// A place where the aircraft is loaded, at its arm aft of the datum.
@@ -70,10 +75,26 @@ struct Station {
     std::optional<FuelTank> fuel;
 };
 
-/// The CG limits as a polygon of (weight, arm) corners.
+/// What a category asks of one station: that it hold at most `max` (0: that
+/// it be empty, as the utility category asks of a C172S's rear seats).
+struct StationCondition {
+    std::string station;
+    double max = 0;
+};
+
+/// The CG limits of a category as a polygon of (weight, arm) corners, and
+/// what the category asks of the stations besides.
 struct Envelope {
     std::string name;
     std::vector<Mass> corners;
+    std::vector<StationCondition> conditions;
+};
+
+/// A limit on what several stations hold together: a C172S's baggage areas
+/// A and B take 120 lb and 50 lb, but at most 120 lb between them.
+struct CombinedLimit {
+    std::vector<std::string> stations;
+    double max = 0;
 };
 
 /// The structural weight limits the handbook gives; each may be missing.
@@ -103,6 +124,7 @@ struct Aircraft {
     std::optional<Mac> mac;
     MaxWeights maxWeight;
     std::vector<Station> stations;
+    std::vector<CombinedLimit> combined;
     std::vector<Envelope> envelopes;
 };
 

@@ -63,13 +63,17 @@ Chart chart(const Aircraft& aircraft, const LoadSheet& sheet, const Symbols& sym
         c.envelopes.push_back({e.name, e.corners, true});
         std::for_each(e.corners.begin(), e.corners.end(), take);
     }
+    // Only a category whose conditions the loading meets can hold a point.
     auto insideAny = [&](Mass m) {
         return std::any_of(aircraft.envelopes.begin(), aircraft.envelopes.end(),
-                           [m](const Envelope& e) { return contains(e.corners, m); });
+                           [&](const Envelope& e) {
+                               return check(aircraft, e, sheet).allowed() && contains(e.corners, m);
+                           });
     };
     bool lineInside = false;
     for (const Envelope& e : aircraft.envelopes) {
-        lineInside = lineInside || check(e, sheet).burnLine;
+        const EnvelopeCheck inside = check(aircraft, e, sheet);
+        lineInside = lineInside || (inside.allowed() && inside.burnLine);
     }
     // The line is a curve (the CG is moment over weight): drawn through
     // enough of its points to look smooth at any size.

@@ -2,6 +2,7 @@
 // SPDX-FileCopyrightText: 2026 zelFLIGHTAB developers
 #include "balance/editor.h"
 
+#include <algorithm>
 #include <charconv>
 
 namespace zel::balance {
@@ -40,7 +41,7 @@ class Numbers {
         if (fault || blank(text)) {
             return std::nullopt;
         }
-        const auto value = readRegional(text, m_symbols);
+        const auto value = readFigure(text, m_symbols);
         if (!value) {
             fault = what + " \"" + text + "\" is not a number";
         }
@@ -82,19 +83,31 @@ ProfileEditor::ProfileEditor(const Aircraft& a, std::optional<std::string> repla
     m_maxLanding = numberText(a.maxWeight.landing, symbols);
     m_maxZeroFuel = numberText(a.maxWeight.zeroFuel, symbols);
     for (const Station& s : a.stations) {
-        StationFields f{s.name, numberText(s.arm, symbols), numberText(s.max, symbols), {}, {}, {}};
+        StationFields f{s.name, numberText(s.arm, symbols), numberText(s.max, symbols), {}, {}, {},
+                        {}};
         if (s.fuel) {
             f.usable = numberText(s.fuel->usable, symbols);
             f.density = numberText(s.fuel->density, symbols);
             f.unusable = s.fuel->unusable != 0 ? numberText(s.fuel->unusable, symbols) : "";
+            f.taxi = s.fuel->taxi != 0 ? numberText(s.fuel->taxi, symbols) : "";
         }
         m_stations.push_back(std::move(f));
     }
+    for (const CombinedLimit& c : a.combined) {
+        std::string names;
+        for (const std::string& name : c.stations) {
+            names += (names.empty() ? "" : " + ") + name;
+        }
+        m_combined.push_back({names, numberText(c.max, symbols)});
+    }
     for (const Envelope& e : a.envelopes) {
-        EnvelopeFields f{e.name, {}};
+        EnvelopeFields f{e.name, {}, {}};
         for (Mass corner : e.corners) {
             f.corners.push_back(
                 {numberText(corner.weight, symbols), numberText(corner.arm, symbols)});
+        }
+        for (const StationCondition& c : e.conditions) {
+            f.conditions.push_back({c.station, numberText(c.max, symbols)});
         }
         m_envelopes.push_back(std::move(f));
     }
@@ -137,7 +150,18 @@ std::string* ProfileEditor::field(std::string_view id) {
                : part == "usable"   ? &s.usable
                : part == "density"  ? &s.density
                : part == "unusable" ? &s.unusable
+               : part == "taxi"     ? &s.taxi
                                     : nullptr;
+    }
+    if (id.starts_with("combined.")) {
+        at = 9;
+        const int i = indexAt(id, at);
+        if (i < 1 || i > static_cast<int>(m_combined.size()) || at > id.size()) {
+            return nullptr;
+        }
+        CombinedFields& c = m_combined[static_cast<std::size_t>(i - 1)];
+        const std::string_view part = id.substr(at);
+        return part == "stations" ? &c.stations : part == "max" ? &c.max : nullptr;
     }
     if (id.starts_with("envelope.")) {
         at = 9;
@@ -159,6 +183,16 @@ std::string* ProfileEditor::field(std::string_view id) {
             CornerFields& c = e.corners[static_cast<std::size_t>(k - 1)];
             part = id.substr(at);
             return part == "weight" ? &c.weight : part == "arm" ? &c.arm : nullptr;
+        }
+        if (part.starts_with("condition.")) {
+            at += 10;
+            const int k = indexAt(id, at);
+            if (k < 1 || k > static_cast<int>(e.conditions.size()) || at > id.size()) {
+                return nullptr;
+            }
+            ConditionFields& c = e.conditions[static_cast<std::size_t>(k - 1)];
+            part = id.substr(at);
+            return part == "station" ? &c.station : part == "max" ? &c.max : nullptr;
         }
     }
     return nullptr;
@@ -184,7 +218,7 @@ void ProfileEditor::apply(const FormAction& action) {
         }
         break;
     case FormAction::Kind::AddEnvelope:
-        m_envelopes.push_back({"", {{}, {}, {}}});
+        m_envelopes.push_back({"", {{}, {}, {}}, {}});
         break;
     case FormAction::Kind::RemoveEnvelope:
         if (inRange(action.group, m_envelopes.size())) {
@@ -201,6 +235,26 @@ void ProfileEditor::apply(const FormAction& action) {
             inRange(action.item, m_envelopes[group].corners.size())) {
             auto& corners = m_envelopes[group].corners;
             corners.erase(corners.begin() + static_cast<long>(item));
+        }
+        break;
+    case FormAction::Kind::AddCombined:
+        m_combined.push_back({});
+        break;
+    case FormAction::Kind::RemoveCombined:
+        if (inRange(action.item, m_combined.size())) {
+            m_combined.erase(m_combined.begin() + static_cast<long>(item));
+        }
+        break;
+    case FormAction::Kind::AddCondition:
+        if (inRange(action.group, m_envelopes.size())) {
+            m_envelopes[group].conditions.push_back({});
+        }
+        break;
+    case FormAction::Kind::RemoveCondition:
+        if (inRange(action.group, m_envelopes.size()) &&
+            inRange(action.item, m_envelopes[group].conditions.size())) {
+            auto& conditions = m_envelopes[group].conditions;
+            conditions.erase(conditions.begin() + static_cast<long>(item));
         }
         break;
     case FormAction::Kind::Save:
@@ -249,20 +303,52 @@ ProfileRead ProfileEditor::profile(const Symbols& symbols) const {
         station.name = s.name;
         station.arm = n.need(s.arm, its + "arm", place + " has no arm");
         station.max = n.read(s.max, its + "max");
-        if (!blank(s.usable) || !blank(s.density) || !blank(s.unusable)) {
+        if (!blank(s.usable) || !blank(s.density) || !blank(s.unusable) || !blank(s.taxi)) {
             const std::string named = place + " (" + s.name + ")";
             const double usable =
                 n.need(s.usable, its + "usable fuel", named + " has no usable fuel");
             const double density =
                 n.need(s.density, its + "fuel density", named + " has no fuel density");
             station.fuel =
-                FuelTank{usable, density, n.read(s.unusable, its + "unusable fuel").value_or(0)};
+                FuelTank{usable, density, n.read(s.unusable, its + "unusable fuel").value_or(0),
+                         n.read(s.taxi, its + "taxi fuel").value_or(0)};
         }
         a.stations.push_back(std::move(station));
     }
+    for (std::size_t i = 0; i < m_combined.size(); ++i) {
+        const CombinedFields& c = m_combined[i];
+        if (blank(c.stations) && blank(c.max)) {
+            continue; // a limit added and left empty
+        }
+        const std::string place = "combined limit " + std::to_string(i + 1);
+        CombinedLimit limit;
+        for (std::size_t from = 0; from <= c.stations.size();) {
+            const std::size_t plus = std::min(c.stations.find('+', from), c.stations.size());
+            std::string name = c.stations.substr(from, plus - from);
+            name.erase(0, name.find_first_not_of(" \t"));
+            name.erase(name.find_last_not_of(" \t") + 1);
+            if (!name.empty()) {
+                limit.stations.push_back(std::move(name));
+            }
+            from = plus + 1;
+        }
+        limit.max = n.need(c.max, place + ": its max", place + " has no max");
+        a.combined.push_back(std::move(limit));
+    }
     for (std::size_t j = 0; j < m_envelopes.size(); ++j) {
         const EnvelopeFields& e = m_envelopes[j];
-        Envelope envelope{e.name, {}};
+        Envelope envelope{e.name, {}, {}};
+        for (std::size_t k = 0; k < e.conditions.size(); ++k) {
+            const ConditionFields& c = e.conditions[k];
+            if (blank(c.station) && blank(c.max)) {
+                continue;
+            }
+            const std::string which = "envelope " + std::to_string(j + 1) + " (" + e.name +
+                                      "): condition " + std::to_string(k + 1);
+            // A station left without a most it may hold must be empty.
+            envelope.conditions.push_back(
+                {c.station, n.read(c.max, which + ": its max").value_or(0)});
+        }
         for (std::size_t k = 0; k < e.corners.size(); ++k) {
             const CornerFields& c = e.corners[k];
             if (blank(c.weight) && blank(c.arm)) {
@@ -315,7 +401,8 @@ ProfileForm ProfileEditor::form() const {
     FormSection stations{"Stations",
                          {},
                          {"Name", "Arm " + au, "Max " + wu, "Usable fuel " + fu,
-                          "Density " + m_weightUnit + "/" + m_fuelUnit, "Unusable fuel " + fu},
+                          "Density " + m_weightUnit + "/" + m_fuelUnit, "Unusable fuel " + fu,
+                          "Taxi fuel " + wu},
                          {},
                          {{"Add station", {FormAction::Kind::AddStation, 0, 0}}}};
     for (std::size_t i = 0; i < m_stations.size(); ++i) {
@@ -328,10 +415,24 @@ ProfileForm ProfileEditor::form() const {
               {id + "max", "Max " + wu, s.max, {}},
               {id + "usable", "Usable fuel " + fu, s.usable, {}},
               {id + "density", "Density " + m_weightUnit + "/" + m_fuelUnit, s.density, {}},
-              {id + "unusable", "Unusable fuel " + fu, s.unusable, {}}},
+              {id + "unusable", "Unusable fuel " + fu, s.unusable, {}},
+              {id + "taxi", "Taxi fuel " + wu, s.taxi, {}}},
              FormButton{"Remove", {FormAction::Kind::RemoveStation, 0, n}}});
     }
     f.sections.push_back(std::move(stations));
+    FormSection combined{"Combined limits",
+                         {},
+                         {"Stations (joined by +)", "Max " + wu},
+                         {},
+                         {{"Add combined limit", {FormAction::Kind::AddCombined, 0, 0}}}};
+    for (std::size_t i = 0; i < m_combined.size(); ++i) {
+        const std::string id = "combined." + std::to_string(i + 1) + ".";
+        combined.rows.push_back(
+            {{{id + "stations", "Stations (joined by +)", m_combined[i].stations, {}},
+              {id + "max", "Max " + wu, m_combined[i].max, {}}},
+             FormButton{"Remove", {FormAction::Kind::RemoveCombined, 0, static_cast<int>(i + 1)}}});
+    }
+    f.sections.push_back(std::move(combined));
     for (std::size_t j = 0; j < m_envelopes.size(); ++j) {
         const EnvelopeFields& e = m_envelopes[j];
         const int g = static_cast<int>(j + 1);
@@ -351,6 +452,20 @@ ProfileForm ProfileEditor::form() const {
                             {FormAction::Kind::RemoveCorner, g, static_cast<int>(k + 1)}}});
         }
         f.sections.push_back(std::move(envelope));
+        FormSection conditions{"Conditions of envelope " + std::to_string(g),
+                               {},
+                               {"Station", "At most " + wu + " (blank: empty)"},
+                               {},
+                               {{"Add condition", {FormAction::Kind::AddCondition, g, 0}}}};
+        for (std::size_t k = 0; k < e.conditions.size(); ++k) {
+            const std::string cid = id + "condition." + std::to_string(k + 1) + ".";
+            conditions.rows.push_back(
+                {{{cid + "station", "Station", e.conditions[k].station, {}},
+                  {cid + "max", "At most " + wu + " (blank: empty)", e.conditions[k].max, {}}},
+                 FormButton{"Remove",
+                            {FormAction::Kind::RemoveCondition, g, static_cast<int>(k + 1)}}});
+        }
+        f.sections.push_back(std::move(conditions));
     }
     FormSection more{"", {}, {}, {}, {{"Add envelope", {FormAction::Kind::AddEnvelope, 0, 0}}}};
     f.sections.push_back(std::move(more));

@@ -30,6 +30,10 @@ struct FormAction {
         RemoveEnvelope,
         AddCorner,
         RemoveCorner,
+        AddCombined,
+        RemoveCombined,
+        AddCondition,
+        RemoveCondition,
         Save,
         Cancel
     };
@@ -48,8 +52,9 @@ struct FormRow {
     std::optional<FormButton> remove;
 };
 
-/// A part of the form: the aircraft's figures, its stations (a table), or
-/// one envelope (its name, then a table of its corners).
+/// A part of the form: the aircraft's figures, its stations (a table), its
+/// combined limits (a table), one envelope (its name, then a table of its
+/// corners), or the conditions of one envelope's category (a table).
 struct FormSection {
     std::string title;
     std::vector<FormField> fields;    ///< each drawn as its label and its field
@@ -86,14 +91,23 @@ class ProfileEditor {
 
   private:
     struct StationFields {
-        std::string name, arm, max, usable, density, unusable;
+        std::string name, arm, max, usable, density, unusable, taxi;
     };
     struct CornerFields {
         std::string weight, arm;
     };
+    /// A condition: the station's name and the most it may hold.
+    struct ConditionFields {
+        std::string station, max;
+    };
     struct EnvelopeFields {
         std::string name;
         std::vector<CornerFields> corners;
+        std::vector<ConditionFields> conditions;
+    };
+    /// A combined limit: its stations' names joined by "+", and their max.
+    struct CombinedFields {
+        std::string stations, max;
     };
     std::string* field(std::string_view id);
 
@@ -102,6 +116,7 @@ class ProfileEditor {
     std::string m_emptyWeight, m_emptyArm, m_divisor, m_macEdge, m_macLength;
     std::string m_maxRamp, m_maxTakeoff, m_maxLanding, m_maxZeroFuel;
     std::vector<StationFields> m_stations;
+    std::vector<CombinedFields> m_combined;
     std::vector<EnvelopeFields> m_envelopes;
 };
 

@@ -2,6 +2,9 @@
 // SPDX-FileCopyrightText: 2026 zelFLIGHTAB developers
 #include "balance/loadsheet.h"
 
+#include "balance/quantity.h"
+
+#include <algorithm>
 #include <cmath>
 
 namespace zel::balance {
@@ -28,6 +31,7 @@ LoadSheet workOut(const Aircraft& aircraft, const Loading& loading) {
     }
     Condition payload; // everything but usable fuel
     Condition fuel;
+    Condition taxi;
     Condition burnt;
     for (std::size_t i = 0; i < aircraft.stations.size(); ++i) {
         const Station& station = aircraft.stations[i];
@@ -37,10 +41,14 @@ LoadSheet workOut(const Aircraft& aircraft, const Loading& loading) {
         line.overMax = station.max && line.weight > *station.max;
         if (station.fuel) {
             line.overUsable = line.weight > station.fuel->usable * station.fuel->density;
+            // The allowance is burnt from what the tank holds, never more.
+            line.taxi = std::min(station.fuel->taxi, line.weight);
             const double burn = loading.burn(i);
-            line.overBurnt = burn > line.weight;
+            line.overBurnt = burn > line.weight - line.taxi;
             fuel.weight += line.weight;
             fuel.moment += line.moment;
+            taxi.weight += line.taxi;
+            taxi.moment += line.taxi * station.arm;
             burnt.weight += burn;
             burnt.moment += burn * station.arm;
             const double unusable = station.fuel->unusable * station.fuel->density;
@@ -54,7 +62,9 @@ LoadSheet workOut(const Aircraft& aircraft, const Loading& loading) {
     }
     sheet.zeroFuel = {sheet.empty.weight + sheet.unusable.weight + payload.weight,
                       sheet.empty.moment + sheet.unusable.moment + payload.moment};
-    sheet.takeoff = {sheet.zeroFuel.weight + fuel.weight, sheet.zeroFuel.moment + fuel.moment};
+    sheet.ramp = {sheet.zeroFuel.weight + fuel.weight, sheet.zeroFuel.moment + fuel.moment};
+    sheet.taxi = taxi;
+    sheet.takeoff = {sheet.ramp.weight - taxi.weight, sheet.ramp.moment - taxi.moment};
     sheet.landing = {sheet.takeoff.weight - burnt.weight, sheet.takeoff.moment - burnt.moment};
     sheet.burn = {sheet.takeoff.weight, sheet.takeoff.moment, -burnt.weight, -burnt.moment};
     sheet.remaining = {sheet.landing.weight, sheet.landing.moment,
@@ -85,8 +95,17 @@ std::optional<double> ballastWeight(const Aircraft& aircraft, const LoadSheet& s
     return sheet.takeoff.weight * (target - sheet.takeoff.cg()) / distance;
 }
 
-EnvelopeCheck check(const Envelope& envelope, const LoadSheet& sheet) {
+EnvelopeCheck check(const Aircraft& aircraft, const Envelope& envelope, const LoadSheet& sheet) {
     EnvelopeCheck c;
+    for (std::size_t k = 0; k < envelope.conditions.size(); ++k) {
+        const StationCondition& condition = envelope.conditions[k];
+        if (const Station* station = stationNamed(aircraft, condition.station);
+            station != nullptr &&
+            sheet.stations.at(static_cast<std::size_t>(station - aircraft.stations.data())).weight >
+                condition.max) {
+            c.unmet.push_back(k);
+        }
+    }
     auto inside = [&](const Condition& point) {
         return point.weight > 0 && contains(envelope.corners, {point.weight, point.cg()});
     };
@@ -102,12 +121,30 @@ EnvelopeCheck check(const Envelope& envelope, const LoadSheet& sheet) {
     return c;
 }
 
+double combinedWeight(const Aircraft& aircraft, const LoadSheet& sheet,
+                      const CombinedLimit& limit) {
+    double weight = 0;
+    for (const std::string& name : limit.stations) {
+        if (const Station* station = stationNamed(aircraft, name)) {
+            weight +=
+                sheet.stations.at(static_cast<std::size_t>(station - aircraft.stations.data()))
+                    .weight;
+        }
+    }
+    return weight;
+}
+
 bool maximaHold(const Aircraft& aircraft, const LoadSheet& sheet) {
     const MaxWeights& m = aircraft.maxWeight;
     auto holds = [](const std::optional<double>& max, double weight) {
         return !max || weight <= *max;
     };
-    if (!holds(m.zeroFuel, sheet.zeroFuel.weight) || !holds(m.ramp, sheet.takeoff.weight) ||
+    for (const CombinedLimit& limit : aircraft.combined) {
+        if (combinedWeight(aircraft, sheet, limit) > limit.max) {
+            return false;
+        }
+    }
+    if (!holds(m.zeroFuel, sheet.zeroFuel.weight) || !holds(m.ramp, sheet.ramp.weight) ||
         !holds(m.takeoff, sheet.takeoff.weight) || !holds(m.landing, sheet.landing.weight)) {
         return false;
     }
@@ -124,7 +161,7 @@ bool withinLimits(const Aircraft& aircraft, const LoadSheet& sheet) {
         return false;
     }
     for (const Envelope& envelope : aircraft.envelopes) {
-        if (check(envelope, sheet).whole()) {
+        if (const EnvelopeCheck c = check(aircraft, envelope, sheet); c.whole() && c.allowed()) {
             return true;
         }
     }

@@ -39,13 +39,18 @@ struct LoadSheet {
         double moment = 0;
         bool overMax = false;    ///< more than the station's max
         bool overUsable = false; ///< more fuel than the tank's usable
-        bool overBurnt = false;  ///< more fuel burnt than it holds
+        bool overBurnt = false;  ///< more fuel burnt than it holds after taxiing
+        double taxi = 0;         ///< the taxi fuel burnt from it, as a weight
     };
     Condition empty;
     std::vector<Line> stations;
     /// Fuel that cannot be used and is not in the empty weight, in every condition.
     Condition unusable;
     Condition zeroFuel;
+    /// Everything loaded, on the ramp before engine start.
+    Condition ramp;
+    /// The fuel burnt for start, taxi and run-up: Takeoff = Ramp - taxi fuel.
+    Condition taxi;
     Condition takeoff;
     Condition landing;
     /// The fuel burnt from takeoff to landing, then the fuel left, from
@@ -73,25 +78,33 @@ std::optional<double> shiftWeight(const Aircraft& aircraft, const LoadSheet& she
 std::optional<double> ballastWeight(const Aircraft& aircraft, const LoadSheet& sheet,
                                     std::size_t station, double target);
 
-/// Which of the three conditions.
-enum class Point { ZeroFuel, Takeoff, Landing };
+/// Which of the conditions.
+enum class Point { ZeroFuel, Ramp, Takeoff, Landing };
 
-/// Whether each point, and the burn line through them, lies in one envelope.
+/// Whether each point, and the burn line through them, lies in one envelope,
+/// and which of the category's conditions the loading does not meet.
 struct EnvelopeCheck {
     bool zeroFuel = false;
     bool takeoff = false;
     bool landing = false;
     bool burnLine = false;
-    double leaves = 0; ///< where the burn line first leaves it, when it does
+    double leaves = 0;              ///< where the burn line first leaves it, when it does
+    std::vector<std::size_t> unmet; ///< indexes into the envelope's conditions
 
     bool whole() const { return zeroFuel && takeoff && landing && burnLine; }
+    bool allowed() const { return unmet.empty(); }
 };
-EnvelopeCheck check(const Envelope& envelope, const LoadSheet& sheet);
+EnvelopeCheck check(const Aircraft& aircraft, const Envelope& envelope, const LoadSheet& sheet);
 
-/// Whether every maximum holds: the weights, each station's max, the usable
-/// fuel, no more burnt than loaded.
+/// What the stations of a combined limit hold together.
+double combinedWeight(const Aircraft& aircraft, const LoadSheet& sheet, const CombinedLimit& limit);
+
+/// Whether every maximum holds: the weights (the ramp weight against the
+/// max ramp, the takeoff weight against the max takeoff), each station's
+/// max, each combined limit, the usable fuel, no more burnt than loaded.
 bool maximaHold(const Aircraft& aircraft, const LoadSheet& sheet);
-/// Whether the maxima hold and the whole loading lies inside at least one envelope.
+/// Whether the maxima hold and the whole loading lies inside at least one
+/// envelope whose conditions it meets.
 bool withinLimits(const Aircraft& aircraft, const LoadSheet& sheet);
 
 } // namespace zel::balance

@@ -162,6 +162,71 @@ Units readUnits(Reader& r, const Json& root) {
     return units;
 }
 
+/// The names of stations a combined limit or a condition is about.
+std::vector<std::string> stationNames(Reader& r, const Json& list, const std::string& what) {
+    std::vector<std::string> names;
+    if (!list.is_array()) {
+        r.fail(what + " is not a list of station names");
+        return names;
+    }
+    for (const Json& name : list) {
+        if (!name.is_string()) {
+            r.fail(what + " is not a list of station names");
+            break;
+        }
+        names.push_back(name.get<std::string>());
+    }
+    return names;
+}
+
+void readCombined(Reader& r, const Json& root, Aircraft& aircraft) {
+    const auto combined = root.find("combined");
+    if (combined == root.end() || combined->is_null()) {
+        return;
+    }
+    if (!combined->is_array()) {
+        r.fail("its combined limits are not a list");
+        return;
+    }
+    for (std::size_t i = 0; i < combined->size() && !r.failed(); ++i) {
+        const Json& c = (*combined)[i];
+        const std::string place = "combined limit " + std::to_string(i + 1);
+        if (!c.is_object() || !c.contains("stations")) {
+            r.fail(place + " has no stations");
+            break;
+        }
+        CombinedLimit limit;
+        limit.stations = stationNames(r, c["stations"], place + ": its stations");
+        limit.max = r.number(c, "max", place + ": its max").value_or(0);
+        aircraft.combined.push_back(std::move(limit));
+    }
+}
+
+std::vector<StationCondition> readConditions(Reader& r, const Json& envelope,
+                                             const std::string& named) {
+    std::vector<StationCondition> conditions;
+    const auto list = envelope.find("conditions");
+    if (list == envelope.end() || list->is_null()) {
+        return conditions;
+    }
+    if (!list->is_array()) {
+        r.fail(named + ": its conditions are not a list");
+        return conditions;
+    }
+    for (std::size_t i = 0; i < list->size() && !r.failed(); ++i) {
+        const Json& c = (*list)[i];
+        const std::string which = named + ": condition " + std::to_string(i + 1);
+        const auto station = c.is_object() ? c.find("station") : c.end();
+        if (!c.is_object() || station == c.end() || !station->is_string()) {
+            r.fail(which + " names no station");
+            break;
+        }
+        conditions.push_back(
+            {station->get<std::string>(), r.number(c, "max", which + ": its max").value_or(0)});
+    }
+    return conditions;
+}
+
 Station readStation(Reader& r, const Json& s, std::size_t index) {
     const std::string place = "station " + std::to_string(index + 1);
     Station station;
@@ -186,8 +251,9 @@ Station readStation(Reader& r, const Json& s, std::size_t index) {
         const auto usable = r.number(*fuel, "usable", named + ": its usable fuel");
         const auto density = r.number(*fuel, "density", named + ": its fuel density");
         const auto unusable = r.number(*fuel, "unusable", named + ": its unusable fuel", true);
+        const auto taxi = r.number(*fuel, "taxi", named + ": its taxi fuel", true);
         if (usable && density) {
-            station.fuel = FuelTank{*usable, *density, unusable.value_or(0)};
+            station.fuel = FuelTank{*usable, *density, unusable.value_or(0), taxi.value_or(0)};
         }
     }
     return station;
@@ -220,6 +286,9 @@ Envelope readEnvelope(Reader& r, const Json& e, std::size_t index) {
             envelope.corners.push_back({*weight, *arm});
         }
     }
+    if (!r.failed()) {
+        envelope.conditions = readConditions(r, e, named);
+    }
     return envelope;
 }
 
@@ -231,12 +300,12 @@ void readFormat(Reader& r, const Json& root) {
     }
     const std::string name = format->get<std::string>();
     constexpr std::string_view Family = "zelflightab-aircraft/";
-    if (name == ProfileFormat) {
+    if (name == ProfileFormat || name == std::string(Family) + "1") {
         return;
     }
     if (name.starts_with(Family)) {
         r.fail("it is version " + name.substr(Family.size()) +
-               " of the format; this program reads version 1");
+               " of the format; this program reads versions 1 and 2");
     } else {
         r.fail("its format is " + inQuotes(name) + ", not " + std::string(ProfileFormat));
     }
@@ -286,6 +355,9 @@ void readAircraft(Reader& r, const Json& root, Aircraft& aircraft) {
         for (std::size_t i = 0; i < stations->size() && !r.failed(); ++i) {
             aircraft.stations.push_back(readStation(r, (*stations)[i], i));
         }
+    }
+    if (!r.failed()) {
+        readCombined(r, root, aircraft);
     }
     const auto envelopes = root.find("envelopes");
     if (!r.failed() && envelopes != root.end() && envelopes->is_array()) {
@@ -355,25 +427,54 @@ std::optional<std::string> checkProfile(const Aircraft& a) {
             return place + " has no name";
         }
         const std::string named = place + " (" + s.name + "): its ";
-        std::optional<double> usable, density, unusable;
+        std::optional<double> usable, density, unusable, taxi;
         if (s.fuel) {
             usable = s.fuel->usable;
             density = s.fuel->density;
             unusable = s.fuel->unusable;
+            taxi = s.fuel->taxi;
         }
         if (auto bad = badNumber({{s.arm, named + "arm"},
                                   {s.max, named + "max"},
                                   {usable, named + "usable fuel"},
                                   {density, named + "fuel density"},
-                                  {unusable, named + "unusable fuel"}})) {
+                                  {unusable, named + "unusable fuel"},
+                                  {taxi, named + "taxi fuel"}})) {
             return bad;
         }
         if (density && *density == 0) {
             return named + "fuel density is 0";
         }
+        if (taxi && *taxi > *usable * *density) {
+            return named + "taxi fuel is more than its usable fuel";
+        }
         for (std::size_t j = 0; j < i; ++j) {
             if (nameKey(a.stations[j].name) == nameKey(s.name)) {
                 return "two stations are named " + inQuotes(s.name);
+            }
+        }
+    }
+    auto known = [&](const std::string& name) {
+        return std::any_of(a.stations.begin(), a.stations.end(),
+                           [&](const Station& s) { return nameKey(s.name) == nameKey(name); });
+    };
+    for (std::size_t i = 0; i < a.combined.size(); ++i) {
+        const CombinedLimit& c = a.combined[i];
+        const std::string place = "combined limit " + std::to_string(i + 1);
+        if (auto bad = badNumber({{c.max, place + ": its max"}})) {
+            return bad;
+        }
+        if (c.stations.size() < 2) {
+            return place + " names fewer than two stations";
+        }
+        for (std::size_t k = 0; k < c.stations.size(); ++k) {
+            if (!known(c.stations[k])) {
+                return place + " names no station " + inQuotes(c.stations[k]);
+            }
+            for (std::size_t j = 0; j < k; ++j) {
+                if (nameKey(c.stations[j]) == nameKey(c.stations[k])) {
+                    return place + " names " + inQuotes(c.stations[k]) + " twice";
+                }
             }
         }
     }
@@ -396,6 +497,15 @@ std::optional<std::string> checkProfile(const Aircraft& a) {
         }
         if (e.corners.size() < 3) {
             return named + " has fewer than three corners";
+        }
+        for (std::size_t k = 0; k < e.conditions.size(); ++k) {
+            const std::string which = named + ": condition " + std::to_string(k + 1);
+            if (auto bad = badNumber({{e.conditions[k].max, which + ": its max"}})) {
+                return bad;
+            }
+            if (!known(e.conditions[k].station)) {
+                return which + " names no station " + inQuotes(e.conditions[k].station);
+            }
         }
         if (const auto fault = shapeFault(e.corners)) {
             return named + ": " + std::string(*fault);
@@ -467,18 +577,36 @@ std::string writeProfile(const Aircraft& aircraft) {
             if (s.fuel->unusable != 0) {
                 fuel["unusable"] = s.fuel->unusable;
             }
+            if (s.fuel->taxi != 0) {
+                fuel["taxi"] = s.fuel->taxi;
+            }
             station["fuel"] = fuel;
         }
         stations.push_back(station);
     }
     root["stations"] = stations;
+    if (!aircraft.combined.empty()) {
+        Ordered combined = Ordered::array();
+        for (const CombinedLimit& c : aircraft.combined) {
+            combined.push_back({{"stations", c.stations}, {"max", c.max}});
+        }
+        root["combined"] = combined;
+    }
     Ordered envelopes = Ordered::array();
     for (const Envelope& e : aircraft.envelopes) {
         Ordered points = Ordered::array();
         for (Mass corner : e.corners) {
             points.push_back({corner.weight, corner.arm});
         }
-        envelopes.push_back({{"name", e.name}, {"points", points}});
+        Ordered envelope = {{"name", e.name}, {"points", points}};
+        if (!e.conditions.empty()) {
+            Ordered conditions = Ordered::array();
+            for (const StationCondition& c : e.conditions) {
+                conditions.push_back({{"station", c.station}, {"max", c.max}});
+            }
+            envelope["conditions"] = conditions;
+        }
+        envelopes.push_back(envelope);
     }
     root["envelopes"] = envelopes;
     return root.dump(2) + "\n";

@@ -11,8 +11,10 @@
 
 namespace zel::balance {
 
-/// The format a profile names itself by, and the one version this program reads.
-inline constexpr std::string_view ProfileFormat = "zelflightab-aircraft/1";
+/// The format a profile names itself by, in the version this program writes.
+/// Version 2 adds combined station limits, the conditions of a category and
+/// the taxi fuel; version 1 files are read as well.
+inline constexpr std::string_view ProfileFormat = "zelflightab-aircraft/2";
 
 /// A profile read: the aircraft, or why the text is none, in a sentence that
 /// starts "Not an aircraft profile: " ("...: line 12: ...", "...: station 3
@@ -21,7 +23,8 @@ using ProfileRead = std::variant<Aircraft, std::string>;
 
 /// Reads a profile (JSON). Refused: a text that is not JSON, another format
 /// or version, an unknown unit, a negative or non-finite number, two stations
-/// of one name, an envelope of fewer than three corners or whose edges cross.
+/// of one name, an envelope of fewer than three corners or whose edges cross,
+/// a combined limit or a condition that names no station of the aircraft.
 /// Fields it does not know are left out.
 ProfileRead readProfile(std::string_view json);
 

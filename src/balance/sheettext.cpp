@@ -2,10 +2,12 @@
 // SPDX-FileCopyrightText: 2026 zelFLIGHTAB developers
 #include "balance/sheettext.h"
 
+#include "balance/quantity.h"
 #include "entry/text.h"
 
 #include <algorithm>
 #include <array>
+#include <cctype>
 #include <cmath>
 
 namespace zel::balance {
@@ -64,6 +66,24 @@ std::string margin(const Envelope& envelope, const Condition& c, const Aircraft&
                                   " aft of the " + envelope.name + " limit" + at;
 }
 
+/// A station's name inside a sentence: "rear seats", "baggage A".
+std::string inSentence(std::string name) {
+    if (name.size() > 1 && std::isupper(static_cast<unsigned char>(name[0])) &&
+        std::islower(static_cast<unsigned char>(name[1]))) {
+        name[0] = static_cast<char>(std::tolower(static_cast<unsigned char>(name[0])));
+    }
+    return name;
+}
+
+/// Names joined as a sentence lists them: "A", "A and B", "A, B and C".
+std::string listed(const std::vector<std::string>& names) {
+    std::string text;
+    for (std::size_t i = 0; i < names.size(); ++i) {
+        text += (i == 0 ? "" : i + 1 == names.size() ? " and " : ", ") + names[i];
+    }
+    return text;
+}
+
 /// A text padded with blanks to `width` characters, on the left or the right.
 std::string padded(const std::string& text, std::size_t width, bool right) {
     const std::size_t length = charCount(text);
@@ -81,6 +101,107 @@ std::string figure(double value, const Symbols& symbols) {
     return text;
 }
 
+std::string combinedName(const CombinedLimit& limit) {
+    std::string name;
+    for (const std::string& station : limit.stations) {
+        name += (name.empty() ? "" : " + ") + station;
+    }
+    return name;
+}
+
+std::string unmetText(const Aircraft& aircraft, const Envelope& envelope,
+                      const EnvelopeCheck& check, const Symbols& symbols) {
+    std::vector<std::string> occupied;
+    std::vector<std::string> parts;
+    for (std::size_t k : check.unmet) {
+        const StationCondition& condition = envelope.conditions.at(k);
+        const Station* station = stationNamed(aircraft, condition.station);
+        const std::string name = inSentence(station ? station->name : condition.station);
+        if (condition.max == 0) {
+            occupied.push_back(name);
+        } else {
+            parts.push_back(name + " over " + figure(condition.max, symbols) + " " +
+                            word(aircraft.units.weight));
+        }
+    }
+    if (!occupied.empty()) {
+        parts.insert(parts.begin(), listed(occupied) + " occupied");
+    }
+    return listed(parts);
+}
+
+Verdict verdict(const Aircraft& aircraft, const LoadSheet& sheet, const Symbols& symbols) {
+    std::vector<std::string> over;
+    for (const LimitLine& line : limitLines(aircraft, sheet, symbols)) {
+        if (line.envelope < 0 && !line.holds) {
+            over.push_back(line.text);
+        }
+    }
+    if (!over.empty()) {
+        std::string text = "Out of limits: ";
+        for (std::size_t i = 0; i < over.size(); ++i) {
+            text += (i == 0 ? "" : "; ") + over[i];
+        }
+        return {false, text + "."};
+    }
+    std::vector<std::string> inside;
+    std::string others;
+    for (const Envelope& envelope : aircraft.envelopes) {
+        const EnvelopeCheck c = check(aircraft, envelope, sheet);
+        if (c.whole() && c.allowed()) {
+            inside.push_back(envelope.name);
+        } else {
+            others += " " + envelope.name + ": " +
+                      (c.allowed() ? std::string("outside")
+                                   : "not allowed, " + unmetText(aircraft, envelope, c, symbols)) +
+                      ".";
+        }
+    }
+    if (inside.empty()) {
+        return {false, "Out of limits:" + others};
+    }
+    return {true, "Within limits: " + listed(inside) +
+                      (inside.size() > 1 ? " categories." : " category.") + others};
+}
+
+std::optional<std::string> emptyWeightFault(const Aircraft& aircraft, double weight,
+                                            const Symbols& symbols) {
+    if (weight <= 0) {
+        return "An empty weight is more than 0.";
+    }
+    return weightFault(aircraft, weight, symbols);
+}
+
+std::optional<std::string> weightFault(const Aircraft& aircraft, double weight,
+                                       const Symbols& symbols) {
+    const MaxWeights& m = aircraft.maxWeight;
+    const std::optional<double> max = m.takeoff ? m.takeoff : m.ramp;
+    if (max && *max > 0 && weight > 10 * *max) {
+        return "Enter at most ten times the max " + std::string(m.takeoff ? "takeoff" : "ramp") +
+               " weight, " + figure(10 * *max, symbols) + " " + word(aircraft.units.weight) + ".";
+    }
+    return std::nullopt;
+}
+
+std::optional<std::string> burnFault(const Aircraft& aircraft, const Loading& loading,
+                                     std::size_t station, double burn, const Symbols& symbols) {
+    const Station& s = aircraft.stations.at(station);
+    if (!s.fuel) {
+        return s.name + " holds no fuel to burn.";
+    }
+    const double loaded = loading.weight(station);
+    const double taxi = std::min(s.fuel->taxi, loaded);
+    if (burn > loaded - taxi) {
+        const std::string wu = word(aircraft.units.weight);
+        std::string held = figure(loaded, symbols) + " " + wu;
+        if (taxi > 0) {
+            held += " (" + figure(loaded - taxi, symbols) + " " + wu + " after taxiing)";
+        }
+        return "The burn from " + s.name + " is more than the " + held + " loaded there.";
+    }
+    return std::nullopt;
+}
+
 std::string momentUnit(const Aircraft& aircraft) {
     std::string unit = word(aircraft.units.weight) + "-" + word(aircraft.units.arm);
     if (aircraft.momentDivisor != 1) {
@@ -95,6 +216,8 @@ std::string_view pointName(Point point) {
         return "Zero fuel";
     case Point::Landing:
         return "Landing";
+    case Point::Ramp:
+        return "Ramp";
     case Point::Takeoff:
         break;
     }
@@ -119,7 +242,7 @@ std::vector<LimitLine> limitLines(const Aircraft& aircraft, const LoadSheet& she
     };
     const MaxWeights& m = aircraft.maxWeight;
     maximum(Point::ZeroFuel, sheet.zeroFuel, m.zeroFuel, "zero fuel");
-    maximum(Point::Takeoff, sheet.takeoff, m.ramp, "ramp");
+    maximum(Point::Ramp, sheet.ramp, m.ramp, "ramp");
     maximum(Point::Takeoff, sheet.takeoff, m.takeoff, "takeoff");
     maximum(Point::Landing, sheet.landing, m.landing, "landing");
     for (std::size_t i = 0; i < aircraft.stations.size(); ++i) {
@@ -140,13 +263,31 @@ std::vector<LimitLine> limitLines(const Aircraft& aircraft, const LoadSheet& she
         }
         if (line.overBurnt) {
             // The burn is kept as a weight; the sheet takes it from the loading.
-            lines.push_back({station.name + ": the burn is more than the fuel loaded", false});
+            lines.push_back(
+                {station.name +
+                     (line.taxi > 0 ? ": the taxi fuel and the burn are" : ": the burn is") +
+                     " more than the fuel loaded",
+                 false});
+        }
+    }
+    for (const CombinedLimit& limit : aircraft.combined) {
+        const double held = combinedWeight(aircraft, sheet, limit);
+        if (held > limit.max) {
+            lines.push_back({combinedName(limit) + ": " + figure(held - limit.max, symbols) + " " +
+                                 wu + " over their max " + figure(limit.max, symbols) + " " + wu,
+                             false});
         }
     }
     for (std::size_t k = 0; k < aircraft.envelopes.size(); ++k) {
         const Envelope& envelope = aircraft.envelopes[k];
-        const EnvelopeCheck inside = check(envelope, sheet);
+        const EnvelopeCheck inside = check(aircraft, envelope, sheet);
         const int index = static_cast<int>(k);
+        if (!inside.allowed()) {
+            lines.push_back(
+                {envelope.name + ": not allowed, " + unmetText(aircraft, envelope, inside, symbols),
+                 false, index});
+            continue;
+        }
         struct Placed {
             Point point;
             const Condition& condition;
@@ -172,12 +313,53 @@ std::vector<LimitLine> limitLines(const Aircraft& aircraft, const LoadSheet& she
     return lines;
 }
 
+namespace {
+
+/// How much more a station takes: to its max, and to every combined limit
+/// it is part of; nothing when no limit bounds it.
+std::optional<double> room(const Aircraft& aircraft, const LoadSheet& sheet, std::size_t station) {
+    const Station& s = aircraft.stations.at(station);
+    std::optional<double> most;
+    auto bound = [&](double left) { most = std::min(most.value_or(left), std::max(left, 0.0)); };
+    if (s.max) {
+        bound(*s.max - sheet.stations.at(station).weight);
+    }
+    if (s.fuel) {
+        bound(s.fuel->usable * s.fuel->density - sheet.stations.at(station).weight);
+    }
+    for (const CombinedLimit& limit : aircraft.combined) {
+        for (const std::string& name : limit.stations) {
+            if (nameKey(name) == nameKey(s.name)) {
+                bound(limit.max - combinedWeight(aircraft, sheet, limit));
+            }
+        }
+    }
+    return most;
+}
+
+/// How much more the aircraft takes before the ramp or the takeoff weight
+/// passes its max.
+std::optional<double> weightRoom(const Aircraft& aircraft, const LoadSheet& sheet) {
+    std::optional<double> most;
+    const MaxWeights& m = aircraft.maxWeight;
+    if (m.ramp) {
+        most = std::max(*m.ramp - sheet.ramp.weight, 0.0);
+    }
+    if (m.takeoff) {
+        most =
+            std::min(most.value_or(*m.takeoff), std::max(*m.takeoff - sheet.takeoff.weight, 0.0));
+    }
+    return most;
+}
+
+} // namespace
+
 std::string shiftText(const Aircraft& aircraft, const LoadSheet& sheet, std::size_t from,
                       std::size_t to, double target, const Symbols& symbols) {
     const Station& a = aircraft.stations.at(from);
     const Station& b = aircraft.stations.at(to);
-    const std::string cg =
-        " to bring the CG to " + figure(target, symbols) + " " + word(aircraft.units.arm);
+    const std::string au = word(aircraft.units.arm);
+    const std::string cg = " to bring the CG to " + figure(target, symbols) + " " + au;
     const auto weight = shiftWeight(aircraft, sheet, from, to, target);
     if (!weight) {
         return a.name + " and " + b.name +
@@ -186,29 +368,67 @@ std::string shiftText(const Aircraft& aircraft, const LoadSheet& sheet, std::siz
     }
     const bool forward = *weight >= 0;
     const std::size_t source = forward ? from : to;
+    const std::size_t destination = forward ? to : from;
+    const Station& s = aircraft.stations[source];
+    const Station& d = aircraft.stations[destination];
     const std::string wu = word(aircraft.units.weight);
-    std::string text = "Move " + figure(std::fabs(*weight), symbols) + " " + wu + " from " +
-                       (forward ? a.name : b.name) + " to " + (forward ? b.name : a.name) + cg;
-    const double held = sheet.stations.at(source).weight;
-    if (std::fabs(*weight) > held) {
-        text += ": more than the " + figure(held, symbols) + " " + wu + " " +
-                aircraft.stations[source].name + " holds";
+    const double needed = std::fabs(*weight);
+    // What can be moved: what the source holds, what the destination takes.
+    double most = sheet.stations.at(source).weight;
+    std::string why = s.name + " holds " + figure(most, symbols) + " " + wu;
+    if (const auto left = room(aircraft, sheet, destination); left && *left < most) {
+        most = *left;
+        why = d.name + " takes at most " + figure(most, symbols) + " " + wu + " more";
     }
-    return text;
+    if (needed > most) {
+        const double moved = most * (d.arm - s.arm);
+        const double reached = (sheet.takeoff.moment + moved) / sheet.takeoff.weight;
+        return "No move from " + s.name + " to " + d.name + " brings the CG to " +
+               figure(target, symbols) + " " + au + ": " + why + "; the CG would then be " +
+               figure(reached, symbols) + " " + au;
+    }
+    return "Move " + figure(needed, symbols) + " " + wu + " from " + s.name + " to " + d.name + cg;
 }
 
 std::string ballastText(const Aircraft& aircraft, const LoadSheet& sheet, std::size_t station,
                         double target, const Symbols& symbols) {
     const Station& s = aircraft.stations.at(station);
-    const std::string cg =
-        " to bring the CG to " + figure(target, symbols) + " " + word(aircraft.units.arm);
+    const std::string au = word(aircraft.units.arm);
+    const std::string wu = word(aircraft.units.weight);
+    const std::string cg = " to bring the CG to " + figure(target, symbols) + " " + au;
     const auto weight = ballastWeight(aircraft, sheet, station, target);
     if (!weight) {
-        return s.name + " is at " + figure(target, symbols) + " " + word(aircraft.units.arm) +
+        return s.name + " is at " + figure(target, symbols) + " " + au +
                ": weight there cannot move the CG to it";
     }
-    const std::string amount =
-        figure(std::fabs(*weight), symbols) + " " + word(aircraft.units.weight);
+    const double needed = std::fabs(*weight);
+    std::optional<double> most;
+    std::string why;
+    if (*weight < 0) {
+        most = sheet.stations.at(station).weight;
+        why = s.name + " holds " + figure(*most, symbols) + " " + wu;
+    } else {
+        most = room(aircraft, sheet, station);
+        if (most) {
+            why = s.name + " takes at most " + figure(*most, symbols) + " " + wu + " more";
+        }
+        if (const auto left = weightRoom(aircraft, sheet); left && (!most || *left < *most)) {
+            most = left;
+            why = "the aircraft takes at most " + figure(*most, symbols) + " " + wu + " more";
+        }
+    }
+    if (most && needed > *most) {
+        const double added = *weight < 0 ? -*most : *most;
+        const double total = sheet.takeoff.weight + added;
+        const std::string reached =
+            total > 0
+                ? "; the CG would then be " +
+                      figure((sheet.takeoff.moment + added * s.arm) / total, symbols) + " " + au
+                : "";
+        return "No weight " + std::string(*weight < 0 ? "taken off " : "added at ") + s.name +
+               " brings the CG to " + figure(target, symbols) + " " + au + ": " + why + reached;
+    }
+    const std::string amount = figure(needed, symbols) + " " + wu;
     return *weight >= 0 ? "Add " + amount + " at " + s.name + cg
                         : "Take " + amount + " off " + s.name + cg;
 }
@@ -256,9 +476,7 @@ std::string sheetText(const Aircraft& aircraft, const Loading& loading, const Sy
                          figure(sheet.unusable.moment / divisor, symbols)},
                         ""});
     }
-    for (auto [point, c] :
-         {std::pair{Point::ZeroFuel, sheet.zeroFuel}, std::pair{Point::Takeoff, sheet.takeoff},
-          std::pair{Point::Landing, sheet.landing}}) {
+    auto total = [&](Point point, const Condition& c) {
         std::string rest = "CG " + figure(c.cg(), symbols) + " " + au;
         if (aircraft.mac) {
             rest += "   " + figure(macPercent(*aircraft.mac, c.cg()), symbols) + " %MAC";
@@ -266,7 +484,16 @@ std::string sheetText(const Aircraft& aircraft, const Loading& loading, const Sy
         rows.push_back({{std::string(pointName(point)), figure(c.weight, symbols), "",
                          figure(c.moment / divisor, symbols)},
                         rest});
+    };
+    total(Point::ZeroFuel, sheet.zeroFuel);
+    if (sheet.taxi.weight > 0) {
+        total(Point::Ramp, sheet.ramp);
+        rows.push_back({{"Taxi fuel", figure(-sheet.taxi.weight, symbols), "",
+                         figure(-sheet.taxi.moment / divisor, symbols)},
+                        ""});
     }
+    total(Point::Takeoff, sheet.takeoff);
+    total(Point::Landing, sheet.landing);
     std::array<std::size_t, 4> widths{};
     for (const Row& row : rows) {
         for (std::size_t k = 0; k < widths.size(); ++k) {
@@ -294,13 +521,16 @@ std::string sheetText(const Aircraft& aircraft, const Loading& loading, const Sy
         }
     }
     for (std::size_t k = 0; k < aircraft.envelopes.size(); ++k) {
-        const bool whole = check(aircraft.envelopes[k], sheet).whole();
-        std::string line = aircraft.envelopes[k].name + (whole ? ": inside" : ": outside");
+        const EnvelopeCheck c = check(aircraft, aircraft.envelopes[k], sheet);
+        std::string line =
+            c.allowed() ? aircraft.envelopes[k].name + (c.whole() ? ": inside; " : ": outside; ")
+                        : "";
         for (const LimitLine& limit : limits) {
             if (limit.envelope == static_cast<int>(k)) {
-                line += "; " + limit.text;
+                line += limit.text + "; ";
             }
         }
+        line.resize(line.size() - 2);
         out += line + "\n";
     }
     if (helper) {
@@ -309,6 +539,7 @@ std::string sheetText(const Aircraft& aircraft, const Loading& loading, const Sy
                     : ballastText(aircraft, sheet, helper->from, helper->target, symbols)) +
                "\n";
     }
+    out += verdict(aircraft, sheet, symbols).text + "\n";
     return out;
 }
 

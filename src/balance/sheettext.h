@@ -21,7 +21,15 @@ std::string figure(double value, const Symbols& symbols);
 /// "lb-in", "kg-mm", "lb-in/1000": the unit of the moments shown.
 std::string momentUnit(const Aircraft& aircraft);
 
-/// The name of a condition: "Zero fuel", "Takeoff", "Landing".
+/// The stations of a combined limit: "Baggage A + Baggage B".
+std::string combinedName(const CombinedLimit& limit);
+
+/// The conditions of a category a loading does not meet, in words: "rear
+/// seats and baggage A occupied", "baggage B over 20.00 lb".
+std::string unmetText(const Aircraft& aircraft, const Envelope& envelope,
+                      const EnvelopeCheck& check, const Symbols& symbols);
+
+/// The name of a condition: "Zero fuel", "Ramp", "Takeoff", "Landing".
 std::string_view pointName(Point point);
 
 /// One limit checked, with its margin in words: "Takeoff: 38.00 lb under max
@@ -37,6 +45,27 @@ struct LimitLine {
 /// envelope with each condition and the burn line.
 std::vector<LimitLine> limitLines(const Aircraft& aircraft, const LoadSheet& sheet,
                                   const Symbols& symbols);
+
+/// The sheet's verdict in a sentence that names what holds: "Within limits:
+/// Normal category. Utility: not allowed, rear seats occupied.", "Out of
+/// limits: Ramp: 12.00 lb over max ramp."
+struct Verdict {
+    bool holds = false;
+    std::string text;
+};
+Verdict verdict(const Aircraft& aircraft, const LoadSheet& sheet, const Symbols& symbols);
+
+/// Why a figure cannot go into the sheet, in a sentence; nothing when it
+/// can. An empty weight of zero or less; a weight (of a station, or the
+/// empty aircraft) over ten times the max takeoff weight (the ramp weight
+/// where no takeoff weight is given), as no aircraft is ever loaded so;
+/// a burn greater than the fuel the station holds after taxiing.
+std::optional<std::string> emptyWeightFault(const Aircraft& aircraft, double weight,
+                                            const Symbols& symbols);
+std::optional<std::string> weightFault(const Aircraft& aircraft, double weight,
+                                       const Symbols& symbols);
+std::optional<std::string> burnFault(const Aircraft& aircraft, const Loading& loading,
+                                     std::size_t station, double burn, const Symbols& symbols);
 
 /// What a helper says: "Move 100.00 lb from Rear seats to Baggage A to bring
 /// the CG to 78.50 in", "Add 128.93 lb at Baggage A to ...", or why it cannot.

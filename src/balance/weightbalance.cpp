@@ -97,7 +97,7 @@ int WeightBalance::entryCount() const {
     return static_cast<int>(entries().size());
 }
 
-Report WeightBalance::enter(int entry, double value) {
+Report WeightBalance::enter(int entry, double value, const Symbols& symbols) {
     const std::vector<Entry> list = entries();
     if (entry < 1 || entry > static_cast<int>(list.size()) || m_editor) {
         return {};
@@ -121,8 +121,35 @@ Report WeightBalance::enter(int entry, double value) {
             return Report::warning("Enter a weight of 0 or more.");
         }
     }
-    m_input = entry;
     const Aircraft& aircraft = shown()->aircraft;
+    std::optional<std::string> fault;
+    switch (e.kind) {
+    case EntryKind::EmptyWeight:
+        fault = emptyWeightFault(aircraft, value, symbols);
+        break;
+    case EntryKind::Weight:
+        fault = weightFault(aircraft, value, symbols);
+        break;
+    case EntryKind::FuelVolume:
+        fault = weightFault(aircraft, value * aircraft.stations[e.station].fuel->density, symbols);
+        break;
+    case EntryKind::BurnVolume:
+    case EntryKind::BurnWeight: {
+        const double density = aircraft.stations[e.station].fuel->density;
+        const Loading* held = loadingOf(aircraft);
+        const Loading empty = Loading::emptyFor(aircraft);
+        fault = burnFault(aircraft, held ? *held : empty, e.station,
+                          e.kind == EntryKind::BurnVolume ? value * density : value, symbols);
+        break;
+    }
+    case EntryKind::EmptyArm:
+    case EntryKind::Target:
+        break;
+    }
+    if (fault) {
+        return Report::warning(*fault);
+    }
+    m_input = entry;
     switch (e.kind) {
     case EntryKind::EmptyWeight:
     case EntryKind::EmptyArm: {
@@ -254,7 +281,7 @@ void WeightBalance::newProfile(const Symbols& symbols) {
     Aircraft blank;
     blank.name = m_shelf.freeName("New aircraft");
     blank.stations.push_back({"Front seats", 0, {}, {}});
-    blank.envelopes.push_back({"Normal", {}});
+    blank.envelopes.push_back({"Normal", {}, {}});
     m_editor = std::make_unique<ProfileEditor>(blank, std::nullopt, symbols);
     m_editor->apply({FormAction::Kind::RemoveEnvelope, 1, 0});
     m_editor->apply({FormAction::Kind::AddEnvelope, 0, 0});
@@ -534,6 +561,14 @@ LoadingView WeightBalance::view(const Symbols& symbols, std::chrono::year_month_
     };
     if (aircraft.empty) {
         v.lines.push_back(total(Point::ZeroFuel, sheet.zeroFuel));
+        if (sheet.taxi.weight > 0) {
+            v.lines.push_back(total(Point::Ramp, sheet.ramp));
+            LoadingLine taxi;
+            taxi.name = "Taxi fuel";
+            taxi.weight.text = figure(-sheet.taxi.weight, symbols);
+            taxi.moment = figure(-sheet.taxi.moment / divisor, symbols);
+            v.lines.push_back(taxi);
+        }
         v.lines.push_back(total(Point::Takeoff, sheet.takeoff));
     }
     for (std::size_t i = 0; i < aircraft.stations.size(); ++i) {
@@ -547,15 +582,17 @@ LoadingView WeightBalance::view(const Symbols& symbols, std::chrono::year_month_
         line.weight = cell(EntryKind::BurnWeight, i, line.name + " weight - " + v.weightUnit);
         if (sheet.stations[i].overBurnt) {
             line.flagged = true;
-            line.note = "more than the fuel loaded";
+            line.note = sheet.stations[i].taxi > 0 ? "more than the fuel loaded less the taxi fuel"
+                                                   : "more than the fuel loaded";
         }
         v.lines.push_back(line);
     }
     if (aircraft.empty) {
         v.lines.push_back(total(Point::Landing, sheet.landing));
         v.limits = limitLines(aircraft, sheet, symbols);
-        v.withinLimits = withinLimits(aircraft, sheet);
-        v.verdict = v.withinLimits ? "Within limits" : "Out of limits";
+        const Verdict said = verdict(aircraft, sheet, symbols);
+        v.withinLimits = said.holds;
+        v.verdict = said.text;
         v.chart = chart(aircraft, sheet, symbols);
     }
 

@@ -31,8 +31,8 @@ class WeightBalance {
 
     int entryCount() const;
     /// Puts a typed value into an entry; what the user must be told when it
-    /// cannot be (a negative weight).
-    Report enter(int entry, double value);
+    /// cannot be (a negative weight, a burn greater than the fuel on board).
+    Report enter(int entry, double value, const Symbols& symbols);
     /// The value an entry holds; nothing when it holds none.
     std::optional<double> value(int entry) const;
     /// Marks the entry as the one the calculator shows.

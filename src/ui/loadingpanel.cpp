@@ -307,7 +307,7 @@ void LoadingPanel::buildSheet(QVBoxLayout* layout) {
     layout->addLayout(grid);
 
     if (!m_view.verdict.empty()) {
-        QLabel* verdict = label(m_view.verdict, true);
+        QLabel* verdict = label(m_view.verdict, true, true);
         verdict->setProperty(m_view.withinLimits ? "holds" : "flag", true);
         verdict->setAccessibleName(text(m_view.verdict));
         layout->addWidget(verdict);

@@ -92,14 +92,18 @@ TEST(LoadSheet, MovingWeightBetweenStations) {
     Loading moved = loaded;
     moved.weights = {100.0, 100.0};
     EXPECT_DOUBLE_EQ(workOut(aircraft, moved).takeoff.cg(), 78.5);
-    // More than the station holds is said so.
+    // More than the station holds is never proposed: all 200 lb moved 120 in
+    // aft give 640,000 lb-in, a CG of 80 in.
     EXPECT_EQ(shiftText(aircraft, sheet, 0, 1, 90, Dot),
-              "Move 866.67 lb from Station 30 to Station 150 to bring the CG to 90.00 in: more "
-              "than the 200.00 lb Station 30 holds");
+              "No move from Station 30 to Station 150 brings the CG to 90.00 in: Station 30 "
+              "holds 200.00 lb; the CG would then be 80.00 in");
     // Ballast: W x (X - CG) / (arm - X).
     EXPECT_NEAR(*ballastWeight(aircraft, sheet, 0, 76), 8000 * (76 - 77.0) / (30 - 76), 1e-9);
+    EXPECT_EQ(ballastText(aircraft, sheet, 0, 76, Dot),
+              "Add 173.91 lb at Station 30 to bring the CG to 76.00 in");
     EXPECT_EQ(ballastText(aircraft, sheet, 1, 76, Dot),
-              "Take 108.11 lb off Station 150 to bring the CG to 76.00 in");
+              "No weight taken off Station 150 brings the CG to 76.00 in: Station 150 holds "
+              "0.00 lb; the CG would then be 77.00 in");
     EXPECT_FALSE(shiftWeight(aircraft, sheet, 0, 0, 78.5));
 }
 
@@ -168,7 +172,9 @@ TEST(Envelope, ABurnLineInsideOnlyWhenAllOfItIs) {
 
 TEST(Limits, MarginsInWords) {
     const Aircraft aircraft = skyhawk(1644, 39.65);
-    // Takeoff at 2,512 lb with full usable fuel: 38 lb under max takeoff.
+    // 2,512 lb on the ramp with full usable fuel, 8 lb of it burnt for
+    // start, taxi and run-up: the ramp weight is checked against the max ramp
+    // weight, the takeoff weight against the max takeoff weight.
     const LoadSheet sheet = workOut(aircraft, load(aircraft, {340, 170, 40, 0, 318}, 120));
     EXPECT_TRUE(maximaHold(aircraft, sheet));
     const auto lines = limitLines(aircraft, sheet, Dot);
@@ -176,9 +182,9 @@ TEST(Limits, MarginsInWords) {
         return std::any_of(lines.begin(), lines.end(),
                            [&](const LimitLine& l) { return l.text == text; });
     };
-    EXPECT_TRUE(has("Takeoff: 38.00 lb under max takeoff"));
-    EXPECT_TRUE(has("Takeoff: 46.00 lb under max ramp"));
-    EXPECT_TRUE(has("Landing: 158.00 lb under max landing"));
+    EXPECT_TRUE(has("Ramp: 46.00 lb under max ramp"));
+    EXPECT_TRUE(has("Takeoff: 46.00 lb under max takeoff"));
+    EXPECT_TRUE(has("Landing: 166.00 lb under max landing"));
     // 2,550 lb at 40.6 in is forward of the Normal envelope's corner at 41.0.
     Aircraft heavy = skyhawk(2550 - 0.0, 40.6);
     const LoadSheet forward = workOut(heavy, Loading::emptyFor(heavy));
@@ -189,6 +195,90 @@ TEST(Limits, MarginsInWords) {
     }));
     EXPECT_FALSE(withinLimits(heavy, forward));
     EXPECT_TRUE(maximaHold(heavy, forward)); // exactly the max takeoff weight is allowed
+}
+
+TEST(Limits, WhatTheHandbookStatesBesidesTheEnvelopes) {
+    // A C172S empty at 1,642 lb and 39.7 in. Its handbook allows 120 lb in
+    // baggage areas A and B together, the utility category only with the
+    // rear seat and both baggage areas empty, and 2,558 lb on the ramp with
+    // 8 lb of fuel for start, taxi and run-up to take off at 2,550 lb.
+    const Aircraft aircraft = skyhawk(1642, 39.7);
+    struct Case {
+        const char* name;
+        std::vector<double> weights; // front, rear, baggage A, baggage B, fuel
+        bool within;
+        const char* verdict;
+    } cases[] = {
+        {"solo with 30 USG",
+         {170, 0, 0, 0, 180},
+         true,
+         "Within limits: Normal and Utility categories."},
+        {"baggage within both limits",
+         {340, 0, 100, 20, 240},
+         true,
+         "Within limits: Normal category. Utility: not allowed, baggage A and baggage B occupied."},
+        {"100 + 50 lb of baggage",
+         {340, 0, 100, 50, 240},
+         false,
+         "Out of limits: Baggage A + Baggage B: 30.00 lb over their max 120.00 lb."},
+        {"a passenger behind",
+         {340, 170, 0, 0, 180},
+         true,
+         "Within limits: Normal category. Utility: not allowed, rear seats occupied."},
+        {"on the ramp at its max with full fuel",
+         {340, 258, 0, 0, 318},
+         true,
+         "Within limits: Normal category. Utility: not allowed, rear seats occupied."},
+        {"a pound over the max ramp",
+         {340, 259, 0, 0, 318},
+         false,
+         "Out of limits: Ramp: 1.00 lb over max ramp; Takeoff: 1.00 lb over max takeoff; "
+         "Landing: 1.00 lb over max landing."},
+        {"utility CG aft of its limit",
+         {170, 0, 0, 0, 318},
+         true,
+         "Within limits: Normal category. Utility: outside."},
+    };
+    for (const Case& c : cases) {
+        const LoadSheet sheet = workOut(aircraft, load(aircraft, c.weights));
+        EXPECT_EQ(withinLimits(aircraft, sheet), c.within) << c.name;
+        const Verdict said = verdict(aircraft, sheet, Dot);
+        EXPECT_EQ(said.holds, c.within) << c.name;
+        EXPECT_EQ(said.text, c.verdict) << c.name;
+    }
+    // The taxi fuel comes off the ramp weight and moment: 8 lb at 48 in.
+    const LoadSheet sheet = workOut(aircraft, load(aircraft, {340, 258, 0, 0, 318}));
+    EXPECT_DOUBLE_EQ(sheet.ramp.weight, 2558);
+    EXPECT_DOUBLE_EQ(sheet.takeoff.weight, 2550);
+    EXPECT_DOUBLE_EQ(sheet.ramp.moment - sheet.takeoff.moment, 8 * 48);
+    // A station that holds less than the allowance gives all it holds.
+    // Baggage B takes 50 lb, but with 100 lb in A only 20 more: 2,144 lb at
+    // 92,113.4 lb-in, and 20 lb at 123 in, give (92,113.4 + 2,460) / 2,164.
+    const LoadSheet bags = workOut(aircraft, load(aircraft, {170, 0, 100, 0, 240}));
+    EXPECT_EQ(ballastText(aircraft, bags, 3, 46, Dot),
+              "No weight added at Baggage B brings the CG to 46.00 in: Baggage B takes at most "
+              "20.00 lb more; the CG would then be 43.70 in");
+    const LoadSheet dry = workOut(aircraft, load(aircraft, {170, 0, 0, 0, 5}));
+    EXPECT_DOUBLE_EQ(dry.takeoff.weight, dry.zeroFuel.weight);
+    // A burn that leaves less than the taxi fuel is flagged.
+    EXPECT_TRUE(workOut(aircraft, load(aircraft, {170, 0, 0, 0, 60}, 53)).stations[4].overBurnt);
+    EXPECT_FALSE(workOut(aircraft, load(aircraft, {170, 0, 0, 0, 60}, 52)).stations[4].overBurnt);
+}
+
+TEST(Limits, FiguresNoLoadingCanHoldAreRefused) {
+    const Aircraft aircraft = skyhawk(1642, 39.7);
+    const Loading loading = load(aircraft, {170, 0, 0, 0, 60});
+    EXPECT_EQ(emptyWeightFault(aircraft, 0, Dot), "An empty weight is more than 0.");
+    EXPECT_EQ(emptyWeightFault(aircraft, -1, Dot), "An empty weight is more than 0.");
+    EXPECT_EQ(emptyWeightFault(aircraft, 1642, Dot), std::nullopt);
+    EXPECT_EQ(weightFault(aircraft, 25500, Dot), std::nullopt);
+    EXPECT_EQ(weightFault(aircraft, 25500.1, Dot),
+              "Enter at most ten times the max takeoff weight, 25,500.00 lb.");
+    EXPECT_EQ(burnFault(aircraft, loading, 4, 52, Dot), std::nullopt);
+    EXPECT_EQ(
+        burnFault(aircraft, loading, 4, 52.5, Dot),
+        "The burn from Fuel is more than the 60.00 lb (52.00 lb after taxiing) loaded there.");
+    EXPECT_EQ(burnFault(aircraft, loading, 0, 1, Dot), "Front seats holds no fuel to burn.");
 }
 
 TEST(Limits, AStationOverItsMaxIsMarkedNotClamped) {
@@ -217,6 +307,7 @@ TEST(LoadSheet, PoundsAndInchesOrKilogramsAndMillimetresGiveOneCg) {
         if (s.fuel) {
             s.fuel->usable *= litre;
             s.fuel->density = s.fuel->density * kg / litre;
+            s.fuel->taxi *= kg;
         }
     }
     const std::vector<double> pounds{340, 170, 40, 10, 240};
@@ -285,9 +376,37 @@ TEST(Profile, RefusedWithTheReason) {
          "literal"},
         {"not an object", "[1, 2]", "it is not a JSON object"},
         {"another format", with("zelflightab-aircraft/1", "efb-aircraft"),
-         "its format is \"efb-aircraft\", not zelflightab-aircraft/1"},
-        {"another version", with("zelflightab-aircraft/1", "zelflightab-aircraft/2"),
-         "it is version 2 of the format; this program reads version 1"},
+         "its format is \"efb-aircraft\", not zelflightab-aircraft/2"},
+        {"another version", with("zelflightab-aircraft/1", "zelflightab-aircraft/3"),
+         "it is version 3 of the format; this program reads versions 1 and 2"},
+        {"a combined limit of an unknown station",
+         with(R"("envelopes")", R"("combined": [{"stations": ["Fuel", "Cargo"], "max": 10}],
+              "envelopes")"),
+         "combined limit 1 names no station \"Cargo\""},
+        {"a combined limit of one station",
+         with(R"("envelopes")", R"("combined": [{"stations": ["Fuel"], "max": 10}], "envelopes")"),
+         "combined limit 1 names fewer than two stations"},
+        {"a combined limit without its max",
+         with(R"("envelopes")", R"("combined": [{"stations": ["Fuel", "fuel"]}], "envelopes")"),
+         "combined limit 1: its max is missing"},
+        {"a station twice in a combined limit",
+         with(R"("envelopes")",
+              R"("combined": [{"stations": ["Fuel", " fuel"], "max": 1}], "envelopes")"),
+         "combined limit 1 names \" fuel\" twice"},
+        {"a condition of an unknown station",
+         with(R"([1500, 100]] })",
+              R"([1500, 100]], "conditions": [{"station": "Rear", "max": 0}] })"),
+         "envelope 1 (Test): condition 1 names no station \"Rear\""},
+        {"a condition without a station",
+         with(R"([1500, 100]] })", R"([1500, 100]], "conditions": [{"max": 0}] })"),
+         "envelope 1 (Test): condition 1 names no station"},
+        {"a negative condition",
+         with(R"([1500, 100]] })",
+              R"([1500, 100]], "conditions": [{"station": "Fuel", "max": -1}] })"),
+         "envelope 1 (Test): condition 1: its max is negative"},
+        {"more taxi fuel than the tank holds",
+         with(R"("density": 6.0)", R"("density": 6.0, "taxi": 301)"),
+         "station 2 (Fuel): its taxi fuel is more than its usable fuel"},
         {"a station without an arm", with(R"("arm": 96,)", ""), "station 2 has no arm"},
         {"an unknown unit", with(R"("fuel": "USG")", R"("fuel": "gal")"),
          "unknown fuel unit \"gal\" (USG, L or ImpG)"},
@@ -339,14 +458,15 @@ TEST(Chart, RoundTicksAndTheLoadingInDataUnits) {
         chart(aircraft, workOut(aircraft, load(aircraft, {340, 0, 20, 0, 240}, 60)), Dot);
     ASSERT_EQ(c.marks.size(), 3U);
     EXPECT_EQ(c.marks[0].name, "Takeoff");
-    EXPECT_DOUBLE_EQ(c.marks[0].at.weight, 2263);
+    // 2,263 lb on the ramp, less 8 lb of taxi fuel.
+    EXPECT_DOUBLE_EQ(c.marks[0].at.weight, 2255);
     EXPECT_TRUE(c.marks[0].inside);
     ASSERT_EQ(c.lines.size(), 2U);
-    EXPECT_DOUBLE_EQ(c.lines[0].points.front().weight, 2263);
+    EXPECT_DOUBLE_EQ(c.lines[0].points.front().weight, 2255);
     EXPECT_DOUBLE_EQ(c.lines[1].points.back().weight, 2023);
     EXPECT_LE(c.weight.low, 1500);
     EXPECT_GE(c.weight.high, 2550);
-    EXPECT_NE(c.description.find("Takeoff 2,263.00 lb at"), std::string::npos);
+    EXPECT_NE(c.description.find("Takeoff 2,255.00 lb at"), std::string::npos);
 }
 
 } // namespace

@@ -79,6 +79,13 @@ TEST(WeightBalancePage, AShippedProfileAsksForTheEmptyWeightAndKeepsItInTheUsers
     EXPECT_TRUE(calc.ui.events.empty());
 }
 
+/// Erases what stays typed after a refusal, as the user does with Backspace.
+void erase(Loaded& calc) {
+    for (int i = 0; i < 8; ++i) {
+        calc.menu.keyDown({.key = Key::Backspace});
+    }
+}
+
 TEST(WeightBalancePage, ALoadingByItsCellsGivesTheSheetLimitsAndPicture) {
     Loaded calc("D-EZEL");
     calc.menu.importProfile(testProfile("skyhawk.json"));
@@ -94,7 +101,8 @@ TEST(WeightBalancePage, ALoadingByItsCellsGivesTheSheetLimitsAndPicture) {
     EXPECT_TRUE(calc.line("Burn Fuel").weight.input);
     EXPECT_TRUE(calc.holds("Takeoff: 307.00 lb under max takeoff"));
     const balance::LoadingView v = calc.loading();
-    EXPECT_EQ(v.verdict, "Within limits");
+    EXPECT_EQ(v.verdict, "Within limits: Normal category. Utility: outside.");
+    EXPECT_TRUE(v.withinLimits);
     ASSERT_TRUE(v.chart);
     EXPECT_EQ(v.chart->marks.size(), 3U);
     // A click without a typed number shows the cell's value in the display.
@@ -104,10 +112,22 @@ TEST(WeightBalancePage, ALoadingByItsCellsGivesTheSheetLimitsAndPicture) {
     calc.enter(calc.line("Baggage A").weight.entry, "130");
     EXPECT_TRUE(calc.line("Baggage A").flagged);
     EXPECT_EQ(calc.line("Baggage A").weight.text, "130.00");
-    EXPECT_EQ(calc.loading().verdict, "Out of limits");
+    EXPECT_EQ(calc.loading().verdict, "Out of limits: Baggage A: 10.00 lb over its max 120.00 lb.");
     // A negative weight is refused and changes nothing.
     calc.enter(calc.line("Rear seats").weight.entry, "-9");
     EXPECT_EQ(calc.lastEvent(), "exclamation Weight & Balance: Enter a weight of 0 or more.");
+    EXPECT_EQ(calc.line("Rear seats").weight.text, "");
+    // A burn greater than the fuel on board is refused, and the burn stays.
+    erase(calc);
+    calc.enter(calc.line("Burn Fuel").volume.entry, "41");
+    EXPECT_EQ(calc.lastEvent(), "exclamation Weight & Balance: The burn from Fuel is more than "
+                                "the 240.00 lb loaded there.");
+    EXPECT_EQ(calc.line("Burn Fuel").weight.text, "60.00");
+    // So is a weight no aircraft of this size is ever loaded with.
+    erase(calc);
+    calc.enter(calc.line("Rear seats").weight.entry, "99999");
+    EXPECT_EQ(calc.lastEvent(), "exclamation Weight & Balance: Enter at most ten times the max "
+                                "takeoff weight, 25,500.00 lb.");
     EXPECT_EQ(calc.line("Rear seats").weight.text, "");
     // Clear empties the loading; the aircraft's empty weight stays.
     calc.menu.clear();
@@ -127,7 +147,13 @@ TEST(WeightBalancePage, TheHelpersShiftAndBallast) {
     const balance::LoadingView v = calc.loading();
     // 2,103 lb at 42.05 in: W x (X - CG) / (arm B - arm A), W x (X - CG) / (arm S - X).
     EXPECT_EQ(v.shift, "Move 74.37 lb from Baggage A to Front seats to bring the CG to 40.00 in");
-    EXPECT_EQ(v.ballast, "Add 1,437.90 lb at Front seats to bring the CG to 40.00 in");
+    // 1,437.90 lb would be needed; 447 lb reach the max takeoff weight, at
+    // (88,433.7 + 447 x 37) / 2,550 = 41.17 in.
+    EXPECT_EQ(v.ballast, "No weight added at Front seats brings the CG to 40.00 in: the aircraft "
+                         "takes at most 447.00 lb more; the CG would then be 41.17 in");
+    // Taking off what a station holds is proposed: 2,103 x -2.05 / 55.
+    calc.menu.chooseBallast(3);
+    EXPECT_EQ(calc.loading().ballast, "Take 78.43 lb off Baggage A to bring the CG to 40.00 in");
     EXPECT_NE(v.sheet.find(v.shift), std::string::npos);
 }
 
@@ -142,7 +168,7 @@ TEST(WeightBalancePage, ABadImportIsRefusedWithItsReasonAndChangesNothing) {
         {"not-json.json", "line 4: syntax error while parsing object - unexpected string "
                           "literal; expected '}'"},
         {"no-arm.json", "station 2 has no arm"},
-        {"version-2.json", "it is version 2 of the format; this program reads version 1"},
+        {"version-3.json", "it is version 3 of the format; this program reads versions 1 and 2"},
         {"crossing.json", "envelope 1 (Test): its edges cross"},
         {"two-corners.json", "envelope 1 (Test) has fewer than three corners"},
         {"negative.json", "station 1 (Pilot and passengers): its arm is negative"},
