@@ -53,6 +53,10 @@ Options parseOptions(const std::vector<std::string>& arguments) {
             if (pair) {
                 (argument == "--load" ? options.loads : options.burns).push_back(*pair);
             }
+        } else if (argument == "--empty-weight") {
+            value(options.emptyWeight);
+        } else if (argument == "--empty-arm") {
+            value(options.emptyArm);
         } else if (argument == "--target-cg") {
             value(options.targetCg);
         } else if (argument == "--shift") {
@@ -82,9 +86,13 @@ Options parseOptions(const std::vector<std::string>& arguments) {
         options.error = "--palette takes day or night";
     }
     const bool helper = options.shift || options.ballast;
+    const bool empty = options.emptyWeight || options.emptyArm;
     if (!options.loadsheet &&
-        (!options.loads.empty() || !options.burns.empty() || options.targetCg || helper)) {
-        options.error = "--load, --burn, --target-cg, --shift and --ballast go with --loadsheet";
+        (!options.loads.empty() || !options.burns.empty() || options.targetCg || helper || empty)) {
+        options.error = "--empty-weight, --empty-arm, --load, --burn, --target-cg, --shift and "
+                        "--ballast go with --loadsheet";
+    } else if (options.emptyWeight.has_value() != options.emptyArm.has_value()) {
+        options.error = "--empty-weight and --empty-arm go together";
     } else if (options.targetCg && (options.shift.has_value() == options.ballast.has_value())) {
         options.error = "--target-cg goes with one of --shift FROM=TO and --ballast NAME";
     } else if (helper && !options.targetCg) {
@@ -158,7 +166,10 @@ calculators, planning pages, runway report decoders and currency rates.
                             and print what the window shows
   --aircraft FILE           with --console: import the aircraft profile FILE
   --loadsheet PROFILE.json  print the loading sheet of the profile and exit:
-                            0 within limits, 1 out of them, 2 for bad input
+                            0 within limits, 1 out of them, 2 for bad input;
+                            PROFILE may name a profile that ships ("Cessna 172S")
+    --empty-weight W        the aircraft's own empty weight and arm, from its
+    --empty-arm A           weighing record, in the profile's units
     --load NAME=VALUE       what station NAME holds: a weight, or for fuel a
                             quantity; a unit word after it converts (230 lb,
                             40 L, 104 kg)

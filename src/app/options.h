@@ -21,12 +21,15 @@ struct Options {
     std::optional<std::string> palette;    ///< "day" or "night"
     std::vector<std::string> convert;      ///< PAGE ROW VALUE: one conversion, printed
     std::optional<std::string> aircraft;   ///< a profile file imported at the start
-    std::optional<std::string> loadsheet;  ///< a profile file whose loading sheet is printed
-    std::vector<std::string> loads;        ///< NAME=VALUE: what a station holds
-    std::vector<std::string> burns;        ///< NAME=VALUE: fuel burnt from a station
-    std::optional<std::string> targetCg;   ///< the CG a helper brings the loading to
-    std::optional<std::string> shift;      ///< FROM=TO: the stations weight moves between
-    std::optional<std::string> ballast;    ///< the station ballast goes to
+    std::optional<std::string>
+        loadsheet; ///< a profile file (or shipped name) whose sheet is printed
+    std::optional<std::string> emptyWeight; ///< the aircraft's own empty weight, for --loadsheet
+    std::optional<std::string> emptyArm;    ///< and its arm
+    std::vector<std::string> loads;         ///< NAME=VALUE: what a station holds
+    std::vector<std::string> burns;         ///< NAME=VALUE: fuel burnt from a station
+    std::optional<std::string> targetCg;    ///< the CG a helper brings the loading to
+    std::optional<std::string> shift;       ///< FROM=TO: the stations weight moves between
+    std::optional<std::string> ballast;     ///< the station ballast goes to
     bool help = false;
     bool version = false;
     bool pages = false; ///< list the pages, a line each: number, tab, name

@@ -5,10 +5,12 @@
 #include "app/options.h"
 #include "balance/profile.h"
 #include "balance/quantity.h"
+#include "balance/shelf.h"
 #include "console/console.h"
 #include "entry/text.h"
 
 #include <charconv>
+#include <cmath>
 #include <fstream>
 #include <iostream>
 #include <sstream>
@@ -59,9 +61,20 @@ std::string cellText(const balance::LoadingCell& cell) {
 
 int runLoadsheet(const Options& options, const ConsoleMachine& machine) {
     using namespace balance;
-    const auto bytes = readFile(*options.loadsheet);
+    // A file, else a profile that ships, by its name ("Cessna 172S").
+    std::optional<std::string> bytes = readFile(*options.loadsheet);
     if (!bytes) {
-        std::cerr << "error: cannot read " << *options.loadsheet << '\n';
+        for (std::string_view json : shippedProfiles()) {
+            if (const auto* a =
+                    std::get_if<Aircraft>(&static_cast<const ProfileRead&>(readProfile(json)));
+                a != nullptr && nameKey(a->name) == nameKey(*options.loadsheet)) {
+                bytes = std::string(json);
+            }
+        }
+    }
+    if (!bytes) {
+        std::cerr << "error: cannot read " << *options.loadsheet
+                  << ", and no profile that ships is named so\n";
         return 2;
     }
     ProfileRead read = readProfile(*bytes);
@@ -69,17 +82,38 @@ int runLoadsheet(const Options& options, const ConsoleMachine& machine) {
         std::cerr << "error: " << *options.loadsheet << ": " << *refusal << '\n';
         return 2;
     }
-    const Aircraft aircraft = std::get<Aircraft>(std::move(read));
-    if (!aircraft.empty) {
-        std::cerr
-            << "error: " << aircraft.name << " has no empty weight: give the profile the "
-            << "aircraft's own (\"empty\": {\"weight\": ..., \"arm\": ...}) from its weighing "
-            << "record\n";
-        return 2;
-    }
+    Aircraft aircraft = std::get<Aircraft>(std::move(read));
     ConsoleInteraction interaction(std::cout);
     Platform platform = machine.platform(interaction);
     const Symbols symbols = platform.regional.symbols();
+    if (options.emptyWeight) {
+        const auto weight = readFigure(*options.emptyWeight, symbols);
+        const auto arm = readFigure(*options.emptyArm, symbols);
+        if (!weight || !std::isfinite(*weight)) {
+            std::cerr << "error: --empty-weight: Not a number: " << *options.emptyWeight << '\n';
+            return 2;
+        }
+        if (!arm || !std::isfinite(*arm) || *arm < 0 || *arm > MaxFigure) {
+            std::cerr << "error: --empty-arm: "
+                      << (arm ? "An arm is measured aft of the datum: "
+                                "0 to 10,000,000: "
+                              : "Not a number: ")
+                      << *options.emptyArm << '\n';
+            return 2;
+        }
+        if (const auto fault = emptyWeightFault(aircraft, *weight, symbols)) {
+            std::cerr << "error: --empty-weight: " << *fault << '\n';
+            return 2;
+        }
+        aircraft.empty = Mass{*weight, *arm};
+    }
+    if (!aircraft.empty) {
+        std::cerr << "error: " << aircraft.name
+                  << " has no empty weight: give the aircraft's own from its weighing record, "
+                  << "with --empty-weight and --empty-arm or in the profile (\"empty\": "
+                  << "{\"weight\": ..., \"arm\": ...})\n";
+        return 2;
+    }
     Loading loading = Loading::emptyFor(aircraft);
     auto station = [&](const std::string& name) -> std::optional<std::size_t> {
         const Station* s = stationNamed(aircraft, name);
@@ -111,12 +145,18 @@ int runLoadsheet(const Options& options, const ConsoleMachine& machine) {
                 std::cerr << "error: " << s.name << ": " << *error << '\n';
                 return 2;
             }
-            (burn ? loading.burns : loading.weights)[*at] = std::get<double>(weight);
+            const double value = std::get<double>(weight);
+            if (const auto fault = burn ? burnFault(aircraft, loading, *at, value, symbols)
+                                        : weightFault(aircraft, value, symbols)) {
+                std::cerr << "error: " << s.name << ": " << *fault << '\n';
+                return 2;
+            }
+            (burn ? loading.burns : loading.weights)[*at] = value;
         }
     }
     std::optional<Helper> helper;
     if (options.targetCg) {
-        const auto target = readRegional(*options.targetCg, symbols);
+        const auto target = readFigure(*options.targetCg, symbols);
         if (!target) {
             std::cerr << "error: --target-cg: not a number: " << *options.targetCg << '\n';
             return 2;

@@ -62,7 +62,7 @@ function announce(before, now) {
     // The sheet: what the loading now comes to.
     const text = now.loading.verdict && (!before.loading || before.loading.verdict !== now.loading.verdict ||
       JSON.stringify(before.loading.lines) !== JSON.stringify(now.loading.lines))
-      ? `${now.loading.verdict}. ${now.loading.lines.filter((l) => l.total).map((l) => `${l.name} ${l.weight.text}, CG ${l.arm.text}`).join('; ')}`
+      ? `${now.loading.verdict} ${now.loading.lines.filter((l) => l.total).map((l) => `${l.name} ${l.weight.text}, CG ${l.arm.text}`).join('; ')}`
       : '';
     if (text) $('announce').textContent = text;
     return;

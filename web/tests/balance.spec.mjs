@@ -40,7 +40,7 @@ test.describe('weight and balance', () => {
     await page.locator('#entry-9').tap(); // the burn
     await expect(page.locator('#entry-3')).toHaveText('340.00');
     await expect(page.locator('#entry-8')).toHaveText('240.00');
-    await expect(page.locator('.verdict')).toHaveText('Within limits');
+    await expect(page.locator('.verdict')).toHaveText('Within limits: Normal category. Utility: outside.');
     const chart = page.locator('#chart');
     await expect(chart).toHaveAttribute('aria-label', /Takeoff 2,243.00 lb at 40.33 in, inside/);
     await expect(chart.locator('circle.mark.inside')).toHaveCount(3);
@@ -115,7 +115,7 @@ test.describe('weight and balance', () => {
     const before = await page.locator('#aircraft option').allTextContents();
     for (const [file, reason] of [
       ['not-json.json', "line 4: syntax error while parsing object - unexpected string literal; expected '}'"],
-      ['version-2.json', 'it is version 2 of the format; this program reads version 1'],
+      ['version-3.json', 'it is version 3 of the format; this program reads versions 1 and 2'],
       ['crossing.json', 'envelope 1 (Test): its edges cross'],
     ]) {
       await importProfile(page, file);
