@@ -65,9 +65,9 @@ int runLoadsheet(const Options& options, const ConsoleMachine& machine) {
     std::optional<std::string> bytes = readFile(*options.loadsheet);
     if (!bytes) {
         for (std::string_view json : shippedProfiles()) {
-            if (const auto* a =
-                    std::get_if<Aircraft>(&static_cast<const ProfileRead&>(readProfile(json)));
-                a != nullptr && nameKey(a->name) == nameKey(*options.loadsheet)) {
+            const ProfileRead shipped = readProfile(json);
+            const auto* a = std::get_if<Aircraft>(&shipped);
+            if (a != nullptr && nameKey(a->name) == nameKey(*options.loadsheet)) {
                 bytes = std::string(json);
             }
         }

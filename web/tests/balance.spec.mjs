@@ -58,7 +58,7 @@ test.describe('weight and balance', () => {
     await page.locator('#profile-export').tap();
     const file = await download;
     expect(file.suggestedFilename()).toBe('D-EZEL.json');
-    expect(readFileSync(await file.path(), 'utf8')).toContain('"format": "zelflightab-aircraft/1"');
+    expect(readFileSync(await file.path(), 'utf8')).toContain('"format": "zelflightab-aircraft/2"');
     // Print: the sheet and its chart, dated, with the aircraft's name, on one page.
     await page.evaluate(() => { window.print = () => { window.zelPrinted = true; }; });
     await page.locator('#profile-print').tap();
