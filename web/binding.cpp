@@ -330,6 +330,7 @@ val loadingObject(const balance::LoadingView& v) {
     l.set("verdict", v.verdict);
     l.set("chart", v.chart ? chartObject(*v.chart) : val::null());
     l.set("stations", strings(v.stations));
+    l.set("savedLoadings", strings(v.savedLoadings));
     l.set("shiftFrom", v.shiftFrom);
     l.set("shiftTo", v.shiftTo);
     l.set("ballastAt", v.ballastAt);
@@ -424,6 +425,9 @@ class Calculator {
     void chooseAircraft(int index) { m_menu.chooseAircraft(index); }
     void chooseShift(int from, int to) { m_menu.chooseShift(from, to); }
     void chooseBallast(int station) { m_menu.chooseBallast(station); }
+    void saveLoading() { m_menu.saveLoading(); }
+    void recallLoading(int index) { m_menu.recallLoading(index); }
+    void deleteLoading(int index) { m_menu.deleteLoading(index); }
     void newProfile() { m_menu.newProfile(); }
     void duplicateProfile() { m_menu.duplicateProfile(); }
     void editProfile() { m_menu.editProfile(); }
@@ -564,6 +568,9 @@ EMSCRIPTEN_BINDINGS(zel_calculator) {
         .function("chooseAircraft", &Calculator::chooseAircraft)
         .function("chooseShift", &Calculator::chooseShift)
         .function("chooseBallast", &Calculator::chooseBallast)
+        .function("saveLoading", &Calculator::saveLoading)
+        .function("recallLoading", &Calculator::recallLoading)
+        .function("deleteLoading", &Calculator::deleteLoading)
         .function("newProfile", &Calculator::newProfile)
         .function("duplicateProfile", &Calculator::duplicateProfile)
         .function("editProfile", &Calculator::editProfile)

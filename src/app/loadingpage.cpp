@@ -31,6 +31,18 @@ void Menu::chooseAircraft(int index) {
     onLoadingSheet([&] { m_balance.chooseAircraft(index); });
 }
 
+void Menu::saveLoading() {
+    onLoadingSheet([&] { m_balance.saveLoading(); });
+}
+
+void Menu::recallLoading(int index) {
+    onLoadingSheet([&] { m_balance.recallLoading(index); });
+}
+
+void Menu::deleteLoading(int index) {
+    onLoadingSheet([&] { m_balance.deleteLoading(index); });
+}
+
 void Menu::chooseShift(int from, int to) {
     onLoadingSheet([&] { m_balance.chooseShift(from, to); });
 }

@@ -119,6 +119,11 @@ class Menu {
     /// The stations (counted from 1, 0 for none) weight is moved between.
     void chooseShift(int from, int to);
     void chooseBallast(int station);
+    /// The loadings saved by name: save the one shown (a name is asked),
+    /// recall or delete the `index`th of the view's savedLoadings.
+    void saveLoading();
+    void recallLoading(int index);
+    void deleteLoading(int index);
     void newProfile();
     void duplicateProfile();
     void editProfile();

@@ -20,6 +20,8 @@ struct LoadingCell {
     bool input = false; ///< the cell last typed into
     /// What a screen reader calls it: "Front seats weight - lb".
     std::string name;
+
+    bool operator==(const LoadingCell&) const = default;
 };
 
 /// One line of the loading sheet: a station, the empty aircraft, a burn, or
@@ -35,11 +37,15 @@ struct LoadingLine {
     bool total = false;   ///< Zero fuel, Takeoff, Landing
     bool flagged = false; ///< over its max or its usable fuel, or burnt more than loaded
     std::string note;     ///< why it is flagged: "10.00 lb over its max 120.00 lb"
+
+    bool operator==(const LoadingLine&) const = default;
 };
 
 struct ProfileChoice {
     std::string name;
     bool shipped = false; ///< as it ships, without an empty weight of its own
+
+    bool operator==(const ProfileChoice&) const = default;
 };
 
 /// The Weight & Balance page as every face draws it, below the calculator:
@@ -62,6 +68,9 @@ struct LoadingView {
     std::string verdict;
     std::optional<Chart> chart;
 
+    /// The loadings saved by name for this aircraft, in the order they were saved.
+    std::vector<std::string> savedLoadings;
+
     /// The helpers: the stations by name, the ones chosen (counted from 1,
     /// 0 for none), the target CG and what each helper says.
     std::vector<std::string> stations;
@@ -82,6 +91,8 @@ struct LoadingView {
     bool canDelete = false;
 
     std::optional<ProfileForm> editor;
+
+    bool operator==(const LoadingView&) const = default;
 };
 
 } // namespace zel::balance

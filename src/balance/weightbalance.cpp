@@ -32,6 +32,10 @@ std::string isoDate(std::chrono::year_month_day day) {
 
 } // namespace
 
+static std::string bookPath(Storage& storage) {
+    return techPath(storage.programFolder(), LoadingBookName);
+}
+
 void WeightBalance::open() {
     if (!m_loaded) {
         m_loaded = true;
@@ -40,6 +44,22 @@ void WeightBalance::open() {
             faults.insert(faults.begin(), "These kept profiles are not offered; their files are "
                                           "left as they are:");
             m_dialogs.message(MessageIcon::Exclamation, Title, std::move(faults));
+        }
+        const FileRead file = m_storage.read(bookPath(m_storage));
+        if (file.status == FileRead::Status::Ok) {
+            const LoadingBook book = readBook(file.bytes);
+            if (m_shelf.find(book.chosen)) {
+                m_chosen = book.chosen;
+            }
+            for (const KeptLoading& kept : book.current) {
+                if (const auto at = m_shelf.find(kept.aircraft)) {
+                    const Aircraft& aircraft = m_shelf.profiles()[*at].aircraft;
+                    m_loadings[key(aircraft.name)] = loadingFrom(aircraft, kept);
+                } else {
+                    m_unplaced[key(kept.aircraft)] = kept;
+                }
+            }
+            m_named = book.named;
         }
     }
     if (!m_shelf.find(m_chosen) && !m_shelf.profiles().empty()) {
@@ -185,6 +205,7 @@ Report WeightBalance::enter(int entry, double value, const Symbols& symbols) {
         m_target = value;
         break;
     }
+    keepLoadings();
     return {};
 }
 
@@ -227,7 +248,100 @@ void WeightBalance::clear() {
         loading() = Loading::emptyFor(shown()->aircraft);
         m_target.reset();
         m_input = 0;
+        keepLoadings();
     }
+}
+
+void WeightBalance::keepLoadings() {
+    LoadingBook book;
+    book.chosen = m_chosen;
+    for (const auto& profile : m_shelf.profiles()) {
+        if (const Loading* l = loadingOf(profile.aircraft)) {
+            KeptLoading kept = keptLoading(profile.aircraft, *l);
+            if (!kept.weights.empty() || !kept.burns.empty()) {
+                book.current.push_back(std::move(kept));
+            }
+        }
+    }
+    for (const auto& [name, kept] : m_unplaced) {
+        if (!m_shelf.find(kept.aircraft)) {
+            book.current.push_back(kept);
+        }
+    }
+    book.named = m_named;
+    m_storage.update(
+        bookPath(m_storage),
+        [bytes = writeBook(book)](const FileRead&) -> std::optional<std::string> { return bytes; },
+        [this](bool saved) {
+            if (!saved && !m_bookFailed) {
+                message("The loadings could not be kept in the storage: they stay as they are "
+                        "while the program runs.");
+            }
+            m_bookFailed = !saved;
+        });
+}
+
+std::vector<std::size_t> WeightBalance::namedOfShown() const {
+    std::vector<std::size_t> list;
+    for (std::size_t i = 0; i < m_named.size(); ++i) {
+        if (key(m_named[i].aircraft) == key(m_chosen)) {
+            list.push_back(i);
+        }
+    }
+    return list;
+}
+
+void WeightBalance::saveLoading() {
+    const auto* profile = shown();
+    if (profile == nullptr || m_editor) {
+        return;
+    }
+    Request box;
+    box.kind = Request::Kind::Input;
+    box.icon = MessageIcon::Question;
+    box.title = std::string(Title);
+    box.paragraphs = {"A name for this loading of " + profile->aircraft.name +
+                      " (\"Solo, full fuel\"):"};
+    m_dialogs.ask(std::move(box), [this, aircraft = profile->aircraft.name](const Answer& answer) {
+        if (!answer.text) {
+            return;
+        }
+        std::string name = *answer.text;
+        name.erase(0, name.find_first_not_of(" \t"));
+        name.erase(name.find_last_not_of(" \t") + 1);
+        const auto at = m_shelf.find(aircraft);
+        if (name.empty() || !at) {
+            return;
+        }
+        const Aircraft& a = m_shelf.profiles()[*at].aircraft;
+        const Loading* held = loadingOf(a);
+        KeptLoading kept = keptLoading(a, held ? *held : Loading::emptyFor(a), name);
+        // A name saved again for the aircraft replaces what it held.
+        std::erase_if(m_named, [&](const KeptLoading& k) {
+            return key(k.aircraft) == key(aircraft) && key(k.name) == key(name);
+        });
+        m_named.push_back(std::move(kept));
+        keepLoadings();
+    });
+}
+
+void WeightBalance::recallLoading(int index) {
+    const std::vector<std::size_t> list = namedOfShown();
+    if (index < 0 || index >= static_cast<int>(list.size()) || m_editor) {
+        return;
+    }
+    loading() = loadingFrom(shown()->aircraft, m_named[list[static_cast<std::size_t>(index)]]);
+    m_input = 0;
+    keepLoadings();
+}
+
+void WeightBalance::deleteLoading(int index) {
+    const std::vector<std::size_t> list = namedOfShown();
+    if (index < 0 || index >= static_cast<int>(list.size()) || m_editor) {
+        return;
+    }
+    m_named.erase(m_named.begin() + static_cast<long>(list[static_cast<std::size_t>(index)]));
+    keepLoadings();
 }
 
 void WeightBalance::chooseAircraft(int index) {
@@ -237,6 +351,7 @@ void WeightBalance::chooseAircraft(int index) {
         m_pendingArm.reset();
         m_shiftFrom = m_shiftTo = m_ballastAt = 0;
         m_input = 0;
+        keepLoadings();
     }
 }
 
@@ -262,8 +377,14 @@ void WeightBalance::keep(const Aircraft& aircraft, std::optional<std::string> re
         if (it != m_loadings.end()) {
             m_loadings[key(aircraft.name)] = it->second;
         }
+        for (KeptLoading& kept : m_named) {
+            if (key(kept.aircraft) == key(*replacing)) {
+                kept.aircraft = aircraft.name;
+            }
+        }
     }
     m_chosen = aircraft.name;
+    keepLoadings();
     m_shelf.keep(aircraft, std::move(replacing), [this, name = aircraft.name](bool ok) {
         if (!ok) {
             message("The profile \"" + name +
@@ -598,6 +719,9 @@ LoadingView WeightBalance::view(const Symbols& symbols, std::chrono::year_month_
 
     for (const Station& station : aircraft.stations) {
         v.stations.push_back(station.name);
+    }
+    for (std::size_t i : namedOfShown()) {
+        v.savedLoadings.push_back(m_named[i].name);
     }
     v.shiftFrom = m_shiftFrom;
     v.shiftTo = m_shiftTo;

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "balance/editor.h"
+#include "balance/loadingbook.h"
 #include "balance/loadingview.h"
 #include "balance/shelf.h"
 #include "page/pagetable.h"
@@ -23,10 +24,11 @@ namespace zel::balance {
 /// the sheet shows them.
 class WeightBalance {
   public:
-    WeightBalance(Storage& storage, Dialogs& dialogs) : m_shelf(storage), m_dialogs(dialogs) {}
+    WeightBalance(Storage& storage, Dialogs& dialogs)
+        : m_storage(storage), m_shelf(storage), m_dialogs(dialogs) {}
 
-    /// The page is opened: the profiles are read the first time, and any kept
-    /// file that is no profile is pointed out.
+    /// The page is opened: the profiles and the kept loadings are read the
+    /// first time, and any kept file that is no profile is pointed out.
     void open();
 
     int entryCount() const;
@@ -41,6 +43,12 @@ class WeightBalance {
     void clear();
 
     void chooseAircraft(int index);
+    /// Asks a name and keeps the loading shown under it ("Solo, full fuel").
+    void saveLoading();
+    /// The loading saved under the `index`th name of the aircraft shown
+    /// (counted from 0, in the order the view lists them) becomes its loading.
+    void recallLoading(int index);
+    void deleteLoading(int index);
     void chooseShift(int from, int to);
     void chooseBallast(int station);
 
@@ -80,12 +88,23 @@ class WeightBalance {
     /// cannot be written.
     void keep(const Aircraft& aircraft, std::optional<std::string> replacing);
     void message(std::string text);
+    /// The named loadings of the aircraft shown, as indexes into m_named.
+    std::vector<std::size_t> namedOfShown() const;
+    /// Writes the book: the aircraft shown, every loading, the named ones.
+    /// A write that fails is told once, until one succeeds again.
+    void keepLoadings();
 
+    Storage& m_storage;
     ProfileShelf m_shelf;
     Dialogs& m_dialogs;
     bool m_loaded = false;
     std::string m_chosen;                      ///< the name of the aircraft shown
     std::map<std::string, Loading> m_loadings; ///< by aircraft name, in lower case
+    /// Loadings read from the book for aircraft whose profile is not read yet
+    /// or no longer offered: kept as they were, by aircraft name in lower case.
+    std::map<std::string, KeptLoading> m_unplaced;
+    std::vector<KeptLoading> m_named;
+    bool m_bookFailed = false;
     /// An empty weight or arm typed while the other is still missing.
     std::optional<double> m_pendingWeight;
     std::optional<double> m_pendingArm;

@@ -223,6 +223,34 @@ std::optional<std::optional<std::string>> runLoadingCommand(Menu& menu, std::str
         menu.chooseAircraft(*n - 1);
         return std::optional<std::string>();
     }
+    if (command == "loading") {
+        const View view = menu.view();
+        if (!view.loading) {
+            return "loading is a command of the Weight & Balance page";
+        }
+        if (argument == "save") {
+            menu.saveLoading();
+            return std::optional<std::string>();
+        }
+        std::istringstream words(arg);
+        std::string verb;
+        int n = 0;
+        const int saved = static_cast<int>(view.loading->savedLoadings.size());
+        if ((words >> verb >> n) && (verb == "recall" || verb == "delete") && n >= 1 &&
+            n <= saved && (words >> std::ws).eof()) {
+            if (verb == "recall") {
+                menu.recallLoading(n - 1);
+            } else {
+                menu.deleteLoading(n - 1);
+            }
+            return std::optional<std::string>();
+        }
+        if (saved == 0) {
+            return std::string("loading takes save: no loading of this aircraft is saved to "
+                               "recall or delete");
+        }
+        return "loading takes save, recall N or delete N, N from 1 to " + std::to_string(saved);
+    }
     if (command == "shift" || command == "ballast") {
         const View view = menu.view();
         const int stations = view.loading ? static_cast<int>(view.loading->stations.size()) : 0;
@@ -324,6 +352,13 @@ void showLoading(const balance::LoadingView& v, std::ostream& out) {
     out << '\n';
     if (!v.missing.empty()) {
         out << "missing " << quotedText(v.missing) << '\n';
+    }
+    if (!v.savedLoadings.empty()) {
+        out << "saved";
+        for (const std::string& name : v.savedLoadings) {
+            out << ' ' << quotedText(name);
+        }
+        out << '\n';
     }
     out << "columns";
     for (const std::string& column : v.columns) {

@@ -32,43 +32,6 @@ QString text(const std::string& s) {
     return QString::fromStdString(s);
 }
 
-/// Everything the panel shows, as one text: the widgets are built again only
-/// when it changes, so that the focus and a field being typed in stay put.
-std::string signature(const balance::LoadingView& v, bool night, qreal zoom) {
-    std::ostringstream s;
-    s << night << zoom << v.chosen << v.aircraft << v.missing << v.verdict << v.shiftFrom
-      << v.shiftTo << v.ballastAt << v.shift << v.ballast << v.target.text << v.target.input;
-    for (const auto& p : v.profiles) {
-        s << '|' << p.name << p.shipped;
-    }
-    for (const auto& line : v.lines) {
-        s << '|' << line.name << line.volume.text << line.volume.input << line.weight.text
-          << line.weight.input << line.arm.text << line.arm.input << line.moment << line.mac
-          << line.flagged << line.note;
-    }
-    for (const auto& limit : v.limits) {
-        s << '|' << limit.text << limit.holds;
-    }
-    if (v.chart) {
-        s << '|' << v.chart->description;
-    }
-    if (v.editor) {
-        s << "|editor" << v.editor->title;
-        for (const auto& section : v.editor->sections) {
-            s << '|' << section.title << section.fields.size() << section.rows.size();
-            for (const auto& field : section.fields) {
-                s << field.id << '=' << field.text;
-            }
-            for (const auto& row : section.rows) {
-                for (const auto& field : row.fields) {
-                    s << field.id << '=' << field.text;
-                }
-            }
-        }
-    }
-    return s.str();
-}
-
 /// A cell of the sheet: a button as wide as its figure, not as a dialog's
 /// push buttons are, so that four columns fit a phone-wide panel.
 class CellButton : public QPushButton {
@@ -100,12 +63,14 @@ LoadingPanel::LoadingPanel(Menu& menu, Act act, QWidget* parent)
 }
 
 void LoadingPanel::render(const balance::LoadingView& view, bool night, qreal zoom) {
-    const std::string shown = signature(view, night, zoom);
+    // The widgets are built again only when what they show changes, so that
+    // the focus and a field being typed in stay put.
+    const bool same = m_built && view == m_view && night == m_night && zoom == m_zoom;
     m_view = view;
     m_night = night;
     m_zoom = zoom;
-    if (shown != m_shown) {
-        m_shown = shown;
+    if (!same) {
+        m_built = true;
         rebuild();
     }
 }
@@ -237,7 +202,38 @@ void LoadingPanel::buildSheet(QVBoxLayout* layout) {
     profiles->setMenu(menu);
     m_chain.push_back(profiles);
     top->addWidget(profiles);
+    // The loadings saved by name: recall one, save the one shown, delete one.
+    auto* loadings = new QPushButton(QStringLiteral("Loadings"));
+    loadings->setObjectName(QStringLiteral("loadings"));
+    loadings->setFocusPolicy(Qt::TabFocus);
+    auto* kept = new QMenu(loadings);
+    QAction* save = kept->addAction(QStringLiteral("Save as..."));
+    connect(save, &QAction::triggered, this, [this] { m_act([this] { m_menu.saveLoading(); }); });
+    if (!m_view.savedLoadings.empty()) {
+        kept->addSeparator();
+        QMenu* remove = nullptr;
+        for (std::size_t i = 0; i < m_view.savedLoadings.size(); ++i) {
+            const int index = static_cast<int>(i);
+            QAction* recall = kept->addAction(text(m_view.savedLoadings[i]));
+            connect(recall, &QAction::triggered, this,
+                    [this, index] { m_act([this, index] { m_menu.recallLoading(index); }); });
+        }
+        kept->addSeparator();
+        remove = kept->addMenu(QStringLiteral("Delete"));
+        for (std::size_t i = 0; i < m_view.savedLoadings.size(); ++i) {
+            const int index = static_cast<int>(i);
+            QAction* gone = remove->addAction(text(m_view.savedLoadings[i]));
+            connect(gone, &QAction::triggered, this,
+                    [this, index] { m_act([this, index] { m_menu.deleteLoading(index); }); });
+        }
+    }
+    loadings->setMenu(kept);
+    m_chain.push_back(loadings);
     layout->addLayout(top);
+    auto* second = new QHBoxLayout;
+    second->addWidget(loadings);
+    second->addStretch(1);
+    layout->addLayout(second);
     if (!m_view.missing.empty()) {
         layout->addWidget(label(m_view.missing, false, true));
     }

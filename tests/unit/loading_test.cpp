@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // SPDX-FileCopyrightText: 2026 zelFLIGHTAB developers
 #include "app/catalogue.h"
+#include "balance/loadingbook.h"
 #include "balance/profile.h"
 #include "fakeplatform.h"
 
@@ -301,6 +302,79 @@ TEST(Menu, GroupsEveryPageOnceUnderItsHeading) {
     std::iota(all.begin(), all.end(), 1);
     EXPECT_EQ(seen, all);
     EXPECT_EQ(view.pages[WeightBalance - 1].name, "Weight & Balance");
+}
+
+} // namespace
+} // namespace zel::test
+
+namespace zel::test {
+namespace {
+
+TEST(WeightBalancePage, TheLoadingAndTheAircraftAreKeptAcrossARestartAndByName) {
+    Calculator first(Dot, WeightBalance);
+    first.menu.importProfile(testProfile("skyhawk.json"));
+    const auto profiles = first.menu.view().loading->profiles;
+    const auto at = std::find_if(profiles.begin(), profiles.end(),
+                                 [](const auto& p) { return p.name == "D-EZEL"; });
+    first.menu.chooseAircraft(static_cast<int>(at - profiles.begin()));
+    auto cell = [](Calculator& calc, const std::string& station) {
+        for (const auto& line : calc.menu.view().loading->lines) {
+            if (line.name == station) {
+                return line.weight;
+            }
+        }
+        return balance::LoadingCell{};
+    };
+    first.enter(cell(first, "Front seats").entry, "340");
+    first.enter(cell(first, "Fuel").entry, "240");
+    first.ui.inputs = {std::string("Solo, full fuel")};
+    first.menu.saveLoading();
+    first.enter(cell(first, "Rear seats").entry, "170");
+
+    // The next run opens on the same aircraft with the same loading.
+    Calculator second(Dot);
+    second.storage.files = first.storage.files;
+    second.menu.openPage(WeightBalance);
+    const balance::LoadingView v = *second.menu.view().loading;
+    EXPECT_EQ(v.aircraft, "D-EZEL");
+    EXPECT_EQ(cell(second, "Front seats").text, "340.00");
+    EXPECT_EQ(cell(second, "Rear seats").text, "170.00");
+    EXPECT_EQ(cell(second, "Fuel").text, "240.00");
+    ASSERT_EQ(v.savedLoadings, std::vector<std::string>{"Solo, full fuel"});
+    // A saved loading replaces the one shown, every station of it.
+    second.menu.recallLoading(0);
+    EXPECT_EQ(cell(second, "Rear seats").text, "");
+    EXPECT_EQ(cell(second, "Front seats").text, "340.00");
+    second.menu.deleteLoading(0);
+    EXPECT_TRUE(second.menu.view().loading->savedLoadings.empty());
+
+    // A book that is not one is left out, and the page opens as it ships.
+    Calculator third(Dot);
+    third.storage.files = first.storage.files;
+    third.storage.files[third.storage.folder + "/Tech/Loadings.json"] = "{ not json";
+    third.menu.openPage(WeightBalance);
+    EXPECT_EQ(third.menu.view().loading->chosen, 0);
+    EXPECT_TRUE(third.menu.view().loading->savedLoadings.empty());
+}
+
+TEST(LoadingBook, WrittenAndReadBackTheSameLeavingOutWhatIsNoLoading) {
+    balance::LoadingBook book;
+    book.chosen = "D-EZEL";
+    book.current = {{"", "D-EZEL", {{"Front seats", 340}, {"Fuel", 240}}, {{"Fuel", 60}}}};
+    book.named = {{"Solo", "D-EZEL", {{"Front seats", 170}}, {}}};
+    EXPECT_EQ(balance::readBook(balance::writeBook(book)), book);
+    const balance::LoadingBook odd = balance::readBook(R"({"format": "zelflightab-loadings/1",
+        "chosen": 7,
+        "current": [{"aircraft": "D-EZEL", "weights": {"Front seats": -1, "Rear seats": "x",
+                     "Fuel": 1e300, "Baggage A": 20}},
+                    {"weights": {}}],
+        "named": [{"aircraft": "D-EZEL"}]})");
+    EXPECT_EQ(odd.chosen, "");
+    ASSERT_EQ(odd.current.size(), 1U);
+    EXPECT_EQ(odd.current[0].weights, (std::map<std::string, double>{{"Baggage A", 20}}));
+    EXPECT_TRUE(odd.named.empty());
+    EXPECT_EQ(balance::readBook(R"({"format": "zelflightab-loadings/2", "chosen": "D-EZEL"})"),
+              balance::LoadingBook{});
 }
 
 } // namespace

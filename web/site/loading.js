@@ -98,6 +98,14 @@ function sheet(view, act, face) {
       tool('profile-import', 'Import', face.pick),
       tool('profile-export', 'Export', () => face.download(view.exportName, face.exported())),
       tool('profile-print', 'Print', face.print, view.sheet === '')));
+  const saved = el('select', { id: 'saved-loading', 'aria-label': 'Saved loadings' },
+    ...view.savedLoadings.map((name) => el('option', {}, name)));
+  const none = view.savedLoadings.length === 0;
+  parts.push(el('div', { className: 'saved-loadings', role: 'group', 'aria-label': 'Loadings' },
+    el('label', { className: 'field' }, el('span', {}, 'Saved loadings'), saved),
+    tool('loading-save', 'Save', () => act((c) => c.saveLoading())),
+    tool('loading-recall', 'Recall', () => act((c) => c.recallLoading(saved.selectedIndex)), none),
+    tool('loading-delete', 'Delete', () => act((c) => c.deleteLoading(saved.selectedIndex)), none)));
   if (view.missing) parts.push(el('p', { className: 'missing' }, view.missing));
 
   const head = el('thead', {},

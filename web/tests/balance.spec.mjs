@@ -108,6 +108,31 @@ test.describe('weight and balance', () => {
     expect(await frame.evaluate((f) => f.scrollWidth)).toBeLessThanOrEqual(await frame.evaluate((f) => f.clientWidth));
   });
 
+  test('the loading and the aircraft stay after a reload, and a loading is kept by name', async ({ page }) => {
+    await openWeightAndBalance(page);
+    await importProfile(page, 'skyhawk.json');
+    await expect(page.locator('#aircraft option:checked')).toHaveText('D-EZEL');
+    await tapKeys(page, '340');
+    await page.locator('#entry-3').tap();
+    await expect(page.locator('#entry-3')).toHaveText('340.00');
+    await page.locator('#loading-save').tap();
+    await expect(page.locator('#dialog')).toHaveAttribute('open', '');
+    await page.locator('#dialog-input').fill('Solo');
+    await page.locator('#dialog-yes').tap();
+    await expect(page.locator('#saved-loading option')).toHaveText(['Solo']);
+    await tapKeys(page, '170');
+    await page.locator('#entry-4').tap();
+    await expect(page.locator('#entry-4')).toHaveText('170.00');
+    await page.reload();
+    await page.locator('.page-button[data-page="28"]').click();
+    await expect(page.locator('#aircraft option:checked')).toHaveText('D-EZEL');
+    await expect(page.locator('#entry-3')).toHaveText('340.00');
+    await expect(page.locator('#entry-4')).toHaveText('170.00');
+    await page.locator('#loading-recall').tap();
+    await expect(page.locator('#entry-4')).toHaveText('');
+    await expect(page.locator('#entry-3')).toHaveText('340.00');
+  });
+
   test('a file that is no profile is refused with its reason; the kept ones stay', async ({ page }) => {
     await openWeightAndBalance(page);
     await importProfile(page, 'skyhawk.json');
