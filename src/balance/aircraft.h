@@ -51,6 +51,8 @@ double litres(FuelUnit unit);
 struct Mass {
     double weight = 0;
     double arm = 0;
+
+    bool operator==(const Mass&) const = default;
 };
 
 /// A station that holds fuel: how much of it can be used, what it weighs (in

@@ -16,22 +16,26 @@ struct Chart {
     struct Tick {
         double value = 0;
         std::string label; ///< with the regional symbols: "2,000", "37.5"
+        bool operator==(const Tick&) const = default;
     };
     struct Axis {
         std::string title; ///< "CG - in", "Weight - lb"
         double low = 0;
         double high = 1;
         std::vector<Tick> ticks; ///< round values from low to high
+        bool operator==(const Axis&) const = default;
     };
     struct Shape {
         std::string name;
         std::vector<Mass> points; ///< (weight, arm) in order
         bool inside = true;       ///< a loading line: wholly inside an envelope
+        bool operator==(const Shape&) const = default;
     };
     struct Mark {
         std::string name; ///< "Takeoff"
         Mass at;
         bool inside = true; ///< inside at least one envelope
+        bool operator==(const Mark&) const = default;
     };
     Axis cg;
     Axis weight;
@@ -41,6 +45,8 @@ struct Chart {
     std::vector<Mark> marks;
     /// What the picture shows, for a screen reader.
     std::string description;
+
+    bool operator==(const Chart&) const = default;
 };
 
 /// Round tick values for a range: steps of 1, 2 or 5 times a power of ten,

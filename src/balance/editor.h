@@ -18,6 +18,8 @@ struct FormField {
     std::string label; ///< "Arm - in"
     std::string text;
     std::vector<std::string> choices; ///< a choice among these; empty for a text
+
+    bool operator==(const FormField&) const = default;
 };
 
 /// What a button of the editor does: to a station (`item`), an envelope
@@ -40,16 +42,22 @@ struct FormAction {
     Kind kind = Kind::Save;
     int group = 0;
     int item = 0;
+
+    bool operator==(const FormAction&) const = default;
 };
 
 struct FormButton {
     std::string caption; ///< "Add station", "Remove"
     FormAction action;
+
+    bool operator==(const FormButton&) const = default;
 };
 
 struct FormRow {
     std::vector<FormField> fields;
     std::optional<FormButton> remove;
+
+    bool operator==(const FormRow&) const = default;
 };
 
 /// A part of the form: the aircraft's figures, its stations (a table), its
@@ -61,6 +69,8 @@ struct FormSection {
     std::vector<std::string> columns; ///< the table's headings
     std::vector<FormRow> rows;        ///< the table's rows, each field under its heading
     std::vector<FormButton> buttons;
+
+    bool operator==(const FormSection&) const = default;
 };
 
 /// The editor as every face draws it.
@@ -68,6 +78,8 @@ struct ProfileForm {
     std::string title; ///< "Edit Cessna 172S", "New profile"
     std::vector<FormSection> sections;
     std::vector<FormButton> buttons; ///< Save, Cancel
+
+    bool operator==(const ProfileForm&) const = default;
 };
 
 /// A profile being edited: every field kept as the user typed it, so that

@@ -38,6 +38,8 @@ struct LimitLine {
     std::string text;
     bool holds = true;
     int envelope = -1; ///< the envelope it is about; -1 for a maximum
+
+    bool operator==(const LimitLine&) const = default;
 };
 
 /// Every limit of the aircraft against the sheet: the maximum weights, then

@@ -58,7 +58,7 @@ class LoadingPanel : public QScrollArea {
     Act m_act;
     balance::LoadingView m_view;
     std::unique_ptr<QPrinter> m_printer; ///< the printer the open print box sets up
-    std::string m_shown;                 ///< what the widgets now show, to rebuild only on a change
+    bool m_built = false;                ///< the widgets show m_view
     bool m_night = false;
     qreal m_zoom = 1;
     QWidget* m_content = nullptr;
