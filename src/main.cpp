@@ -16,9 +16,11 @@ int main(int argc, char** argv) {
     if (const auto status = zel::answerAtOnce(options)) {
         return *status;
     }
-    if (!options.console && options.convert.empty() && !options.loadsheet) {
+    // The window, or a loading sheet drawn into a PDF, with the window's libraries.
+    if (options.pdf || (!options.console && options.convert.empty() && !options.loadsheet)) {
         std::string error;
-        void* entry = zel::modules::load("window", "zelflightab_window_main", error);
+        void* entry = zel::modules::load(
+            "window", options.pdf ? "zelflightab_loadsheet_pdf" : "zelflightab_window_main", error);
         if (entry == nullptr) {
             std::cerr << "error: cannot open the window: " << error << '\n';
             return 2;

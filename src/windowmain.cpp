@@ -7,6 +7,7 @@
 #include "platform/sharedplatform.h"
 #include "ui/menuwindow.h"
 #include "ui/qtinteraction.h"
+#include "ui/sheetprinter.h"
 
 #include <QApplication>
 
@@ -95,4 +96,24 @@ extern "C" Q_DECL_EXPORT int zelflightab_window_main(int argc, char** argv) {
         return 2;
     }
     return options.script ? runScript(*shared, options) : runWindow(*shared, options);
+}
+
+extern "C" Q_DECL_EXPORT int zelflightab_loadsheet_pdf(int argc, char** argv) {
+    const zel::Options options = zel::parseOptions(std::vector<std::string>(argv + 1, argv + argc));
+    // A PDF needs no screen: without one, Qt draws offscreen.
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM") && qEnvironmentVariableIsEmpty("DISPLAY") &&
+        qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY")) {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    }
+    QApplication application(argc, argv);
+    const auto shared = zel::startPlatform(options);
+    if (!shared) {
+        return 2;
+    }
+    const zel::ConsoleMachine machine = zel::consoleMachine(*shared);
+    const QString path = QString::fromStdString(*options.pdf);
+    const bool letter = options.paper == "letter";
+    return zel::runLoadsheet(options, machine, [&](const zel::balance::PrintedSheet& sheet) {
+        return zel::writeSheetPdf(sheet, path, letter);
+    });
 }

@@ -53,6 +53,10 @@ Options parseOptions(const std::vector<std::string>& arguments) {
             if (pair) {
                 (argument == "--load" ? options.loads : options.burns).push_back(*pair);
             }
+        } else if (argument == "--pdf") {
+            value(options.pdf);
+        } else if (argument == "--paper") {
+            value(options.paper);
         } else if (argument == "--empty-weight") {
             value(options.emptyWeight);
         } else if (argument == "--empty-arm") {
@@ -87,10 +91,13 @@ Options parseOptions(const std::vector<std::string>& arguments) {
     }
     const bool helper = options.shift || options.ballast;
     const bool empty = options.emptyWeight || options.emptyArm;
-    if (!options.loadsheet &&
-        (!options.loads.empty() || !options.burns.empty() || options.targetCg || helper || empty)) {
-        options.error = "--empty-weight, --empty-arm, --load, --burn, --target-cg, --shift and "
-                        "--ballast go with --loadsheet";
+    if (!options.loadsheet && (!options.loads.empty() || !options.burns.empty() ||
+                               options.targetCg || helper || empty || options.pdf)) {
+        options.error = "--empty-weight, --empty-arm, --load, --burn, --target-cg, --shift, "
+                        "--ballast and --pdf go with --loadsheet";
+    } else if (options.paper &&
+               (!options.pdf || (*options.paper != "a4" && *options.paper != "letter"))) {
+        options.error = "--paper takes a4 or letter, with --pdf";
     } else if (options.emptyWeight.has_value() != options.emptyArm.has_value()) {
         options.error = "--empty-weight and --empty-arm go together";
     } else if (options.targetCg && (options.shift.has_value() == options.ballast.has_value())) {
@@ -170,6 +177,8 @@ calculators, planning pages, runway report decoders and currency rates.
                             PROFILE may name a profile that ships ("Cessna 172S")
     --empty-weight W        the aircraft's own empty weight and arm, from its
     --empty-arm A           weighing record, in the profile's units
+    --pdf FILE              the sheet to sign, on one page of a PDF too
+    --paper a4|letter       its paper (A4 unless letter)
     --load NAME=VALUE       what station NAME holds: a weight, or for fuel a
                             quantity; a unit word after it converts (230 lb,
                             40 L, 104 kg)

@@ -25,6 +25,8 @@ struct Options {
         loadsheet; ///< a profile file (or shipped name) whose sheet is printed
     std::optional<std::string> emptyWeight; ///< the aircraft's own empty weight, for --loadsheet
     std::optional<std::string> emptyArm;    ///< and its arm
+    std::optional<std::string> pdf;         ///< --loadsheet: the sheet printed to this PDF too
+    std::optional<std::string> paper;       ///< "a4" or "letter"
     std::vector<std::string> loads;         ///< NAME=VALUE: what a station holds
     std::vector<std::string> burns;         ///< NAME=VALUE: fuel burnt from a station
     std::optional<std::string> targetCg;    ///< the CG a helper brings the loading to

@@ -85,6 +85,8 @@ struct LoadingView {
     /// today's date) and its text.
     std::string heading;
     std::string sheet;
+    /// The page printed to be signed; nothing while the sheet is not worked out.
+    std::optional<PrintedSheet> printed;
     /// The file name an export is offered under: "Cessna 172S.json".
     std::string exportName;
     bool canRename = false; ///< a kept profile, not one as it ships

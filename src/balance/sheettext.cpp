@@ -433,25 +433,24 @@ std::string ballastText(const Aircraft& aircraft, const LoadSheet& sheet, std::s
                         : "Take " + amount + " off " + s.name + cg;
 }
 
-std::string sheetText(const Aircraft& aircraft, const Loading& loading, const Symbols& symbols,
-                      const std::optional<Helper>& helper) {
+std::vector<SheetRow> sheetRows(const Aircraft& aircraft, const Loading& loading,
+                                const Symbols& symbols) {
     const LoadSheet sheet = workOut(aircraft, loading);
     const std::string wu = word(aircraft.units.weight);
     const std::string au = word(aircraft.units.arm);
     const std::string fu = word(aircraft.units.fuel);
     const double divisor = aircraft.momentDivisor;
-    // The table first, then each column as wide as its widest cell.
-    struct Row {
-        std::array<std::string, 4> cells; // name, weight, arm, moment
-        std::string rest;
-    };
-    std::vector<Row> rows;
-    rows.push_back(
-        {{"Station", "Weight " + wu, "Arm " + au, "Moment " + momentUnit(aircraft)}, ""});
-    rows.push_back(
-        {{"Empty", figure(sheet.empty.weight, symbols), figure(aircraft.empty->arm, symbols),
-          figure(sheet.empty.moment / divisor, symbols)},
-         ""});
+    const double emptyArm = aircraft.empty ? aircraft.empty->arm : 0;
+    std::vector<SheetRow> rows;
+    rows.push_back({{"Station", "Weight " + wu, "Arm " + au, "Moment " + momentUnit(aircraft)},
+                    "",
+                    false,
+                    false});
+    rows.push_back({{"Empty", figure(sheet.empty.weight, symbols), figure(emptyArm, symbols),
+                     figure(sheet.empty.moment / divisor, symbols)},
+                    "",
+                    false,
+                    false});
     for (std::size_t i = 0; i < aircraft.stations.size(); ++i) {
         const Station& station = aircraft.stations[i];
         const LoadSheet::Line& line = sheet.stations[i];
@@ -464,17 +463,22 @@ std::string sheetText(const Aircraft& aircraft, const Loading& loading, const Sy
                         " (" + figure(burn, symbols) + " " + wu + ")";
             }
         }
-        if (line.overMax || line.overUsable || line.overBurnt) {
+        const bool over = line.overMax || line.overUsable || line.overBurnt;
+        if (over) {
             note += note.empty() ? "OVER" : "   OVER";
         }
         rows.push_back({{station.name, figure(line.weight, symbols), figure(station.arm, symbols),
                          figure(line.moment / divisor, symbols)},
-                        note});
+                        note,
+                        false,
+                        over});
     }
     if (sheet.unusable.weight > 0) {
         rows.push_back({{"Unusable fuel", figure(sheet.unusable.weight, symbols), "",
                          figure(sheet.unusable.moment / divisor, symbols)},
-                        ""});
+                        "",
+                        false,
+                        false});
     }
     auto total = [&](Point point, const Condition& c) {
         std::string rest = "CG " + figure(c.cg(), symbols) + " " + au;
@@ -483,25 +487,70 @@ std::string sheetText(const Aircraft& aircraft, const Loading& loading, const Sy
         }
         rows.push_back({{std::string(pointName(point)), figure(c.weight, symbols), "",
                          figure(c.moment / divisor, symbols)},
-                        rest});
+                        rest,
+                        true,
+                        false});
     };
     total(Point::ZeroFuel, sheet.zeroFuel);
     if (sheet.taxi.weight > 0) {
         total(Point::Ramp, sheet.ramp);
         rows.push_back({{"Taxi fuel", figure(-sheet.taxi.weight, symbols), "",
                          figure(-sheet.taxi.moment / divisor, symbols)},
-                        ""});
+                        "",
+                        false,
+                        false});
     }
     total(Point::Takeoff, sheet.takeoff);
     total(Point::Landing, sheet.landing);
+    return rows;
+}
+
+namespace {
+
+std::string helperText(const Aircraft& aircraft, const LoadSheet& sheet,
+                       const std::optional<Helper>& helper, const Symbols& symbols) {
+    if (!helper) {
+        return {};
+    }
+    return helper->kind == Helper::Kind::Shift
+               ? shiftText(aircraft, sheet, helper->from, helper->to, helper->target, symbols)
+               : ballastText(aircraft, sheet, helper->from, helper->target, symbols);
+}
+
+} // namespace
+
+PrintedSheet printedSheet(const Aircraft& aircraft, const Loading& loading, const Symbols& symbols,
+                          std::string_view date, const std::optional<Helper>& helper) {
+    const LoadSheet sheet = workOut(aircraft, loading);
+    PrintedSheet printed;
+    printed.title = "Loading sheet";
+    printed.facts = {{"Aircraft", aircraft.name},
+                     {"Registration", ""},
+                     {"Date", std::string(date)},
+                     {"Pilot", ""}};
+    printed.rows = sheetRows(aircraft, loading, symbols);
+    printed.verdict = verdict(aircraft, sheet, symbols);
+    printed.verdictWord = printed.verdict.holds ? "WITHIN LIMITS" : "OUT OF LIMITS";
+    printed.limits = limitLines(aircraft, sheet, symbols);
+    printed.chart = chart(aircraft, sheet, symbols);
+    printed.helper = helperText(aircraft, sheet, helper, symbols);
+    printed.signatures = {"Loaded by", "Pilot in command"};
+    printed.source = aircraft.source;
+    return printed;
+}
+
+std::string sheetText(const Aircraft& aircraft, const Loading& loading, const Symbols& symbols,
+                      const std::optional<Helper>& helper) {
+    const LoadSheet sheet = workOut(aircraft, loading);
+    const std::vector<SheetRow> rows = sheetRows(aircraft, loading, symbols);
     std::array<std::size_t, 4> widths{};
-    for (const Row& row : rows) {
+    for (const SheetRow& row : rows) {
         for (std::size_t k = 0; k < widths.size(); ++k) {
             widths[k] = std::max(widths[k], charCount(row.cells[k]));
         }
     }
     std::string out = aircraft.name + "\n";
-    for (const Row& row : rows) {
+    for (const SheetRow& row : rows) {
         std::string line = padded(row.cells[0], widths[0], false);
         for (std::size_t k = 1; k < widths.size(); ++k) {
             line += "   " + padded(row.cells[k], widths[k], true);
@@ -534,10 +583,7 @@ std::string sheetText(const Aircraft& aircraft, const Loading& loading, const Sy
         out += line + "\n";
     }
     if (helper) {
-        out += (helper->kind == Helper::Kind::Shift
-                    ? shiftText(aircraft, sheet, helper->from, helper->to, helper->target, symbols)
-                    : ballastText(aircraft, sheet, helper->from, helper->target, symbols)) +
-               "\n";
+        out += helperText(aircraft, sheet, helper, symbols) + "\n";
     }
     out += verdict(aircraft, sheet, symbols).text + "\n";
     return out;

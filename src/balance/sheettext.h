@@ -2,9 +2,11 @@
 // SPDX-FileCopyrightText: 2026 zelFLIGHTAB developers
 #pragma once
 
+#include "balance/chart.h"
 #include "balance/loadsheet.h"
 #include "entry/numbertext.h"
 
+#include <array>
 #include <optional>
 #include <string>
 #include <vector>
@@ -54,6 +56,8 @@ std::vector<LimitLine> limitLines(const Aircraft& aircraft, const LoadSheet& she
 struct Verdict {
     bool holds = false;
     std::string text;
+
+    bool operator==(const Verdict&) const = default;
 };
 Verdict verdict(const Aircraft& aircraft, const LoadSheet& sheet, const Symbols& symbols);
 
@@ -83,6 +87,45 @@ struct Helper {
     std::size_t from = 0; ///< the station weight moves from, or the ballast's
     std::size_t to = 0;
 };
+
+/// One line of the sheet's table: the station, its weight, arm and moment,
+/// and what more it says (a fuel quantity, a CG and %MAC, "OVER").
+struct SheetRow {
+    std::array<std::string, 4> cells;
+    std::string rest;
+    bool total = false;   ///< Zero fuel, Ramp, Takeoff, Landing
+    bool flagged = false; ///< over a max, or more burnt than loaded
+
+    bool operator==(const SheetRow&) const = default;
+};
+
+/// The headings and the lines of the table, with the regional symbols.
+std::vector<SheetRow> sheetRows(const Aircraft& aircraft, const Loading& loading,
+                                const Symbols& symbols);
+
+/// The loading sheet as it is printed on one page to be signed: what is
+/// filled in (the aircraft, the date) and what is left to write on (the
+/// registration where the aircraft's name is none, the pilot), the table,
+/// the verdict in a word and a sentence, the limits, the chart, the helper's
+/// answer, and the lines for the signatures.
+struct PrintedSheet {
+    std::string title;                                      ///< "Loading sheet"
+    std::vector<std::pair<std::string, std::string>> facts; ///< label, value (empty: a line)
+    std::vector<SheetRow> rows;                             ///< the first holds the headings
+    std::string verdictWord;                                ///< "WITHIN LIMITS" or "OUT OF LIMITS"
+    Verdict verdict;
+    std::vector<LimitLine> limits;
+    std::optional<Chart> chart;
+    std::string helper;
+    std::vector<std::string> signatures; ///< what each signature line is for
+    std::string source;                  ///< where the profile's figures come from
+
+    bool operator==(const PrintedSheet&) const = default;
+};
+
+PrintedSheet printedSheet(const Aircraft& aircraft, const Loading& loading, const Symbols& symbols,
+                          std::string_view date,
+                          const std::optional<Helper>& helper = std::nullopt);
 
 /// The sheet as text: the aircraft, one line per station, the lines "Zero
 /// fuel", "Takeoff" and "Landing", then one line per maximum and per

@@ -748,6 +748,7 @@ LoadingView WeightBalance::view(const Symbols& symbols, std::chrono::year_month_
                             static_cast<std::size_t>(m_ballastAt - 1), 0};
         }
         v.sheet = sheetText(aircraft, l, symbols, helper);
+        v.printed = printedSheet(aircraft, l, symbols, isoDate(today), helper);
     }
     return v;
 }

@@ -104,9 +104,12 @@ std::optional<int> answerAtOnce(const Options& options);
 int runConsole(const Options& options, const ConsoleMachine& machine);
 /// `zelflightab --convert PAGE ROW VALUE`: prints the page's eight rows.
 int runConvert(const Options& options, const ConsoleMachine& machine);
+/// Writes the printed sheet where --pdf asks; why it could not, or nothing.
+using SheetPdf = std::function<std::optional<std::string>(const balance::PrintedSheet& sheet)>;
 /// `zelflightab --loadsheet PROFILE.json [--load NAME=VALUE]...`: prints the
-/// loading sheet; 0 within limits, 1 out of them, 2 for bad input.
-int runLoadsheet(const Options& options, const ConsoleMachine& machine);
+/// loading sheet, and with `pdf` writes it; 0 within limits, 1 out of
+/// them, 2 for bad input.
+int runLoadsheet(const Options& options, const ConsoleMachine& machine, const SheetPdf& pdf = {});
 
 /// Imports the profile file at `path` as the user's own; the reason when it
 /// cannot be read or is no profile.

@@ -11,6 +11,7 @@
 
 #include <charconv>
 #include <cmath>
+#include <cstdio>
 #include <fstream>
 #include <iostream>
 #include <sstream>
@@ -59,7 +60,7 @@ std::string cellText(const balance::LoadingCell& cell) {
 
 } // namespace
 
-int runLoadsheet(const Options& options, const ConsoleMachine& machine) {
+int runLoadsheet(const Options& options, const ConsoleMachine& machine, const SheetPdf& pdf) {
     using namespace balance;
     // A file, else a profile that ships, by its name ("Cessna 172S").
     std::optional<std::string> bytes = readFile(*options.loadsheet);
@@ -183,6 +184,16 @@ int runLoadsheet(const Options& options, const ConsoleMachine& machine) {
         }
     }
     std::cout << sheetText(aircraft, loading, symbols, helper);
+    if (pdf) {
+        const std::chrono::year_month_day day = platform.clock.today();
+        char date[16];
+        std::snprintf(date, sizeof date, "%04d-%02u-%02u", static_cast<int>(day.year()),
+                      static_cast<unsigned>(day.month()), static_cast<unsigned>(day.day()));
+        if (const auto fault = pdf(printedSheet(aircraft, loading, symbols, date, helper))) {
+            std::cerr << "error: " << *fault << '\n';
+            return 2;
+        }
+    }
     return withinLimits(aircraft, workOut(aircraft, loading)) ? 0 : 1;
 }
 

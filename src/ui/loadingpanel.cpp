@@ -3,6 +3,7 @@
 #include "ui/loadingpanel.h"
 
 #include "ui/chartpainter.h"
+#include "ui/sheetprinter.h"
 #include "ui/windowstyle.h"
 
 #include <QApplication>
@@ -530,38 +531,11 @@ void LoadingPanel::chooseFile(bool import) {
 }
 
 void LoadingPanel::print(QPrinter& printer) {
+    if (!m_view.printed) {
+        return;
+    }
     QPainter p(&printer);
-    const QRectF page = printer.pageRect(QPrinter::DevicePixel);
-    const qreal scale = printer.resolution() / 96.0;
-    QFont heading = p.font();
-    heading.setPointSizeF(14);
-    heading.setBold(true);
-    p.setFont(heading);
-    qreal y = 0;
-    const QRectF title(0, y, page.width(), QFontMetricsF(heading, &printer).height() * 1.4);
-    p.drawText(title, Qt::AlignLeft | Qt::AlignTop, text(m_view.heading));
-    y += title.height();
-    QFont mono(QStringLiteral("monospace"));
-    mono.setStyleHint(QFont::Monospace);
-    mono.setPointSizeF(8.5);
-    p.setFont(mono);
-    const QFontMetricsF metrics(mono, &printer);
-    const QStringList lines = text(m_view.sheet).split(QLatin1Char('\n'));
-    for (const QString& line : lines) {
-        // A long limit line is wrapped to the page.
-        const QRectF box =
-            metrics.boundingRect(QRectF(0, y, page.width(), page.height()), Qt::TextWordWrap, line);
-        p.drawText(QRectF(0, y, page.width(), box.height()), Qt::TextWordWrap, line);
-        y += box.height();
-    }
-    if (m_view.chart) {
-        const qreal room = page.height() - y - 10 * scale;
-        const qreal height = std::min(room, page.width() * 0.7);
-        if (height > 80 * scale) {
-            drawChart(p, QRectF(0, y + 10 * scale, page.width(), height), *m_view.chart,
-                      chartColours(false), 1.4, scale);
-        }
-    }
+    paintSheet(p, printer, *m_view.printed);
 }
 
 LoadingPanel::~LoadingPanel() = default;

@@ -1,0 +1,48 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
+# --loadsheet --pdf with no screen: the sheet printed on one page of the paper
+# asked for, the verdict and the lines to sign on in it, and the exit status
+# of the verdict; a file that cannot be written is said so.
+unset(ENV{DISPLAY})
+unset(ENV{WAYLAND_DISPLAY})
+unset(ENV{QT_QPA_PLATFORM})
+file(REMOVE_RECURSE ${WORK})
+file(MAKE_DIRECTORY ${WORK})
+set(load --loadsheet "Cessna 172S" --empty-weight 1642 --empty-arm 39.7 --locale en_US
+    --load "Front seats=340" --load "Baggage A=100" --load "Fuel=40")
+foreach(paper a4 letter)
+    foreach(baggage 20 50)
+        set(pdf ${WORK}/${paper}-${baggage}.pdf)
+        execute_process(COMMAND ${PROGRAM} --folder ${WORK} ${load} --load "Baggage B=${baggage}"
+                                --pdf ${pdf} --paper ${paper}
+            OUTPUT_VARIABLE out ERROR_VARIABLE err RESULT_VARIABLE status)
+        if(baggage EQUAL 20)
+            set(expected 0)
+        else()
+            set(expected 1)
+        endif()
+        if(NOT status EQUAL expected OR NOT EXISTS ${pdf})
+            message(FATAL_ERROR "${paper} ${baggage}: exit ${status}, expected ${expected}\n${err}")
+        endif()
+        file(READ ${pdf} bytes LIMIT 8)
+        if(NOT bytes MATCHES "^%PDF-")
+            message(FATAL_ERROR "${pdf} is no PDF")
+        endif()
+        file(STRINGS ${pdf} counts REGEX "/Count 1( |$)")
+        if(NOT counts)
+            message(FATAL_ERROR "${pdf} is not one page")
+        endif()
+        if(paper STREQUAL "letter")
+            file(STRINGS ${pdf} box REGEX "MediaBox *\\[0 0 612")
+        else()
+            file(STRINGS ${pdf} box REGEX "MediaBox *\\[0 0 595")
+        endif()
+        if(NOT box)
+            message(FATAL_ERROR "${pdf} is not on ${paper} paper")
+        endif()
+    endforeach()
+endforeach()
+execute_process(COMMAND ${PROGRAM} --folder ${WORK} ${load} --pdf ${WORK}/no/such/folder/x.pdf
+    OUTPUT_VARIABLE out ERROR_VARIABLE err RESULT_VARIABLE status)
+if(NOT status EQUAL 2 OR NOT err MATCHES "error: cannot write ${WORK}/no/such/folder/x.pdf")
+    message(FATAL_ERROR "an unwritable PDF: exit ${status}\n${err}")
+endif()
