@@ -100,7 +100,7 @@ Chart chart(const Aircraft& aircraft, const LoadSheet& sheet, const Symbols& sym
         c.marks.push_back({std::string(pointName(point)), at, inside});
         take(at);
         marks += " " + std::string(pointName(point)) + " " + figure(at.weight, symbols) + " " + wu +
-                 " at " + figure(at.arm, symbols) + " " + au + ", " +
+                 " at " + armFigure(at.arm, aircraft.units.arm, symbols) + " " + au + ", " +
                  (inside ? "inside." : "outside.");
     }
     if (lowW > highW) {

@@ -55,15 +55,16 @@ std::string margin(const Envelope& envelope, const Condition& c, const Aircraft&
     if (inside) {
         const double fromForward = std::max(cg - range.first, 0.0);
         const double fromAft = std::max(range.second - cg, 0.0);
-        return fromForward <= fromAft ? "CG " + figure(fromForward, symbols) + " " + au +
-                                            " aft of the " + envelope.name + " forward limit" + at
-                                      : "CG " + figure(fromAft, symbols) + " " + au +
-                                            " forward of the " + envelope.name + " aft limit" + at;
+        return fromForward <= fromAft
+                   ? "CG " + armFigure(fromForward, aircraft.units.arm, symbols) + " " + au +
+                         " aft of the " + envelope.name + " forward limit" + at
+                   : "CG " + armFigure(fromAft, aircraft.units.arm, symbols) + " " + au +
+                         " forward of the " + envelope.name + " aft limit" + at;
     }
-    return cg < range.first ? "CG " + figure(range.first - cg, symbols) + " " + au +
-                                  " forward of the " + envelope.name + " limit" + at
-                            : "CG " + figure(cg - range.second, symbols) + " " + au +
-                                  " aft of the " + envelope.name + " limit" + at;
+    return cg < range.first ? "CG " + armFigure(range.first - cg, aircraft.units.arm, symbols) +
+                                  " " + au + " forward of the " + envelope.name + " limit" + at
+                            : "CG " + armFigure(cg - range.second, aircraft.units.arm, symbols) +
+                                  " " + au + " aft of the " + envelope.name + " limit" + at;
 }
 
 /// A station's name inside a sentence: "rear seats", "baggage A".
@@ -96,6 +97,19 @@ std::string padded(const std::string& text, std::size_t width, bool right) {
 std::string figure(double value, const Symbols& symbols) {
     std::string text = formatNumber(value, "#,#0.00", symbols);
     if (text == "-0" + symbols.decimal + "00") {
+        text.erase(0, 1);
+    }
+    return text;
+}
+
+std::string armFigure(double value, ArmUnit unit, const Symbols& symbols) {
+    // Enough decimals to redo a moment by hand in each unit: hundredths of
+    // an inch or a centimetre, tenths of a millimetre, millimetres of a metre.
+    const std::string pattern = unit == ArmUnit::Metre        ? "#,#0.000"
+                                : unit == ArmUnit::Millimetre ? "#,#0.0"
+                                                              : "#,#0.00";
+    std::string text = formatNumber(value, pattern, symbols);
+    if (text.starts_with("-") && text.find_first_of("123456789") == std::string::npos) {
         text.erase(0, 1);
     }
     return text;
@@ -359,7 +373,8 @@ std::string shiftText(const Aircraft& aircraft, const LoadSheet& sheet, std::siz
     const Station& a = aircraft.stations.at(from);
     const Station& b = aircraft.stations.at(to);
     const std::string au = word(aircraft.units.arm);
-    const std::string cg = " to bring the CG to " + figure(target, symbols) + " " + au;
+    const std::string cg =
+        " to bring the CG to " + armFigure(target, aircraft.units.arm, symbols) + " " + au;
     const auto weight = shiftWeight(aircraft, sheet, from, to, target);
     if (!weight) {
         return a.name + " and " + b.name +
@@ -384,8 +399,9 @@ std::string shiftText(const Aircraft& aircraft, const LoadSheet& sheet, std::siz
         const double moved = most * (d.arm - s.arm);
         const double reached = (sheet.takeoff.moment + moved) / sheet.takeoff.weight;
         return "No move from " + s.name + " to " + d.name + " brings the CG to " +
-               figure(target, symbols) + " " + au + ": " + why + "; the CG would then be " +
-               figure(reached, symbols) + " " + au;
+               armFigure(target, aircraft.units.arm, symbols) + " " + au + ": " + why +
+               "; the CG would then be " + armFigure(reached, aircraft.units.arm, symbols) + " " +
+               au;
     }
     return "Move " + figure(needed, symbols) + " " + wu + " from " + s.name + " to " + d.name + cg;
 }
@@ -395,10 +411,11 @@ std::string ballastText(const Aircraft& aircraft, const LoadSheet& sheet, std::s
     const Station& s = aircraft.stations.at(station);
     const std::string au = word(aircraft.units.arm);
     const std::string wu = word(aircraft.units.weight);
-    const std::string cg = " to bring the CG to " + figure(target, symbols) + " " + au;
+    const std::string cg =
+        " to bring the CG to " + armFigure(target, aircraft.units.arm, symbols) + " " + au;
     const auto weight = ballastWeight(aircraft, sheet, station, target);
     if (!weight) {
-        return s.name + " is at " + figure(target, symbols) + " " + au +
+        return s.name + " is at " + armFigure(target, aircraft.units.arm, symbols) + " " + au +
                ": weight there cannot move the CG to it";
     }
     const double needed = std::fabs(*weight);
@@ -421,12 +438,14 @@ std::string ballastText(const Aircraft& aircraft, const LoadSheet& sheet, std::s
         const double added = *weight < 0 ? -*most : *most;
         const double total = sheet.takeoff.weight + added;
         const std::string reached =
-            total > 0
-                ? "; the CG would then be " +
-                      figure((sheet.takeoff.moment + added * s.arm) / total, symbols) + " " + au
-                : "";
+            total > 0 ? "; the CG would then be " +
+                            armFigure((sheet.takeoff.moment + added * s.arm) / total,
+                                      aircraft.units.arm, symbols) +
+                            " " + au
+                      : "";
         return "No weight " + std::string(*weight < 0 ? "taken off " : "added at ") + s.name +
-               " brings the CG to " + figure(target, symbols) + " " + au + ": " + why + reached;
+               " brings the CG to " + armFigure(target, aircraft.units.arm, symbols) + " " + au +
+               ": " + why + reached;
     }
     const std::string amount = figure(needed, symbols) + " " + wu;
     return *weight >= 0 ? "Add " + amount + " at " + s.name + cg
@@ -446,7 +465,8 @@ std::vector<SheetRow> sheetRows(const Aircraft& aircraft, const Loading& loading
                     "",
                     false,
                     false});
-    rows.push_back({{"Empty", figure(sheet.empty.weight, symbols), figure(emptyArm, symbols),
+    rows.push_back({{"Empty", figure(sheet.empty.weight, symbols),
+                     armFigure(emptyArm, aircraft.units.arm, symbols),
                      figure(sheet.empty.moment / divisor, symbols)},
                     "",
                     false,
@@ -467,7 +487,8 @@ std::vector<SheetRow> sheetRows(const Aircraft& aircraft, const Loading& loading
         if (over) {
             note += note.empty() ? "OVER" : "   OVER";
         }
-        rows.push_back({{station.name, figure(line.weight, symbols), figure(station.arm, symbols),
+        rows.push_back({{station.name, figure(line.weight, symbols),
+                         armFigure(station.arm, aircraft.units.arm, symbols),
                          figure(line.moment / divisor, symbols)},
                         note,
                         false,
@@ -481,7 +502,7 @@ std::vector<SheetRow> sheetRows(const Aircraft& aircraft, const Loading& loading
                         false});
     }
     auto total = [&](Point point, const Condition& c) {
-        std::string rest = "CG " + figure(c.cg(), symbols) + " " + au;
+        std::string rest = "CG " + armFigure(c.cg(), aircraft.units.arm, symbols) + " " + au;
         if (aircraft.mac) {
             rest += "   " + figure(macPercent(*aircraft.mac, c.cg()), symbols) + " %MAC";
         }

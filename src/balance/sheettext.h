@@ -20,6 +20,10 @@ namespace zel::balance {
 /// A figure as the sheet shows it: grouped, two decimals ("2,105.00").
 std::string figure(double value, const Symbols& symbols);
 
+/// An arm or a CG as the sheet shows it in its unit: 40.33 in, 461.9 mm,
+/// 0.523 m, 104.75 cm.
+std::string armFigure(double value, ArmUnit unit, const Symbols& symbols);
+
 /// "lb-in", "kg-mm", "lb-in/1000": the unit of the moments shown.
 std::string momentUnit(const Aircraft& aircraft);
 

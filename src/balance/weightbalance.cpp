@@ -606,7 +606,8 @@ LoadingView WeightBalance::view(const Symbols& symbols, std::chrono::year_month_
             }
         }
         if (const auto held = value(c.entry)) {
-            c.text = figure(*held, symbols);
+            const bool arm = kind == EntryKind::EmptyArm || kind == EntryKind::Target;
+            c.text = arm ? armFigure(*held, aircraft.units.arm, symbols) : figure(*held, symbols);
         }
         c.input = c.entry == m_input;
         c.name = std::move(name);
@@ -644,7 +645,7 @@ LoadingView WeightBalance::view(const Symbols& symbols, std::chrono::year_month_
                 cell(EntryKind::FuelVolume, i, station.name + " quantity - " + v.fuelUnit);
         }
         line.weight = cell(EntryKind::Weight, i, station.name + " weight - " + v.weightUnit);
-        line.arm.text = figure(station.arm, symbols);
+        line.arm.text = armFigure(station.arm, aircraft.units.arm, symbols);
         if (l.weights[i]) {
             line.moment = figure(worked.moment / divisor, symbols);
         }
@@ -673,7 +674,7 @@ LoadingView WeightBalance::view(const Symbols& symbols, std::chrono::year_month_
         line.name = std::string(pointName(point));
         line.total = true;
         line.weight.text = figure(c.weight, symbols);
-        line.arm.text = figure(c.cg(), symbols);
+        line.arm.text = armFigure(c.cg(), aircraft.units.arm, symbols);
         line.moment = figure(c.moment / divisor, symbols);
         if (aircraft.mac) {
             line.mac = figure(macPercent(*aircraft.mac, c.cg()), symbols) + " %MAC";

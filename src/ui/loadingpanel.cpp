@@ -239,6 +239,14 @@ void LoadingPanel::buildSheet(QVBoxLayout* layout) {
         layout->addWidget(label(m_view.missing, false, true));
     }
 
+    // The verdict first, above the sheet it sums up.
+    if (!m_view.verdict.empty()) {
+        QLabel* verdict = label(m_view.verdict, true, true);
+        verdict->setProperty(m_view.withinLimits ? "holds" : "flag", true);
+        verdict->setAccessibleName(text(m_view.verdict));
+        layout->addWidget(verdict);
+    }
+
     // The sheet: station (with its fuel quantity), weight, arm (a
     // condition's CG), moment; the units under the headings.
     auto* grid = new QGridLayout;
@@ -303,12 +311,6 @@ void LoadingPanel::buildSheet(QVBoxLayout* layout) {
     grid->setColumnStretch(0, 1);
     layout->addLayout(grid);
 
-    if (!m_view.verdict.empty()) {
-        QLabel* verdict = label(m_view.verdict, true, true);
-        verdict->setProperty(m_view.withinLimits ? "holds" : "flag", true);
-        verdict->setAccessibleName(text(m_view.verdict));
-        layout->addWidget(verdict);
-    }
     for (const balance::LimitLine& limit : m_view.limits) {
         QLabel* line = label((limit.holds ? "\u2713 " : "\u2717 ") + limit.text, false, true);
         line->setProperty(limit.holds ? "holds" : "flag", true);

@@ -336,6 +336,35 @@ TEST(LoadSheet, TheAquilaHandbookExample) {
     EXPECT_TRUE(withinLimits(aquila, sheet));
 }
 
+TEST(LoadSheet, ArmsAndCgsToThePrecisionOfTheirUnit) {
+    // Enough to redo a moment by hand, and no CG of 0.52 m beside a limit
+    // of 0.523 m.
+    struct Case {
+        double value;
+        ArmUnit unit;
+        const char* shown;
+    } cases[] = {
+        {40.333, ArmUnit::Inch, "40.33"},        {104.75, ArmUnit::Centimetre, "104.75"},
+        {461.904, ArmUnit::Millimetre, "461.9"}, {1234.56, ArmUnit::Millimetre, "1,234.6"},
+        {0.5234, ArmUnit::Metre, "0.523"},       {0.5236, ArmUnit::Metre, "0.524"},
+        {-0.0004, ArmUnit::Metre, "0.000"},      {-1.5, ArmUnit::Inch, "-1.50"},
+    };
+    for (const Case& c : cases) {
+        EXPECT_EQ(armFigure(c.value, c.unit, Dot), c.shown) << c.value;
+    }
+    // The Aquila's handbook example, its CG unrounded: 461.90 mm.
+    Aircraft aquila = shipped("Aquila AT01-100C");
+    aquila.empty = Mass{506, 440};
+    const std::vector<SheetRow> rows = sheetRows(aquila, load(aquila, {55, 100, 0, 15, 72}), Dot);
+    const auto takeoff = std::find_if(rows.begin(), rows.end(),
+                                      [](const SheetRow& r) { return r.cells[0] == "Takeoff"; });
+    ASSERT_NE(takeoff, rows.end());
+    EXPECT_EQ(takeoff->cells[1], "748.00");
+    EXPECT_TRUE(takeoff->total);
+    EXPECT_EQ(takeoff->rest, "CG 461.9 mm");
+    EXPECT_EQ(rows[1].cells[2], "440.0"); // the empty arm
+}
+
 TEST(Profile, WrittenAndReadBackTheSame) {
     for (std::string_view json : shippedProfiles()) {
         const Aircraft aircraft = read(json);

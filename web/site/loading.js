@@ -107,6 +107,10 @@ function sheet(view, act, face) {
     tool('loading-recall', 'Recall', () => act((c) => c.recallLoading(saved.selectedIndex)), none),
     tool('loading-delete', 'Delete', () => act((c) => c.deleteLoading(saved.selectedIndex)), none)));
   if (view.missing) parts.push(el('p', { className: 'missing' }, view.missing));
+  // The verdict above the sheet, where it stays in sight while the sheet scrolls.
+  if (view.verdict) {
+    parts.push(el('p', { className: `verdict ${view.withinLimits ? 'holds' : 'fails'}` }, view.verdict));
+  }
 
   const head = el('thead', {},
     el('tr', {}, ...['Station', 'Weight', 'Arm', 'Moment'].map((h) => el('th', { scope: 'col' }, h))),
@@ -123,9 +127,6 @@ function sheet(view, act, face) {
     }
   }
   parts.push(el('div', { className: 'sheet-frame' }, el('table', { className: 'sheet', 'aria-label': 'Loading sheet' }, head, body)));
-  if (view.verdict) {
-    parts.push(el('p', { className: `verdict ${view.withinLimits ? 'holds' : 'fails'}` }, view.verdict));
-  }
   if (view.limits.length > 0) {
     parts.push(el('ul', { className: 'limits' }, ...view.limits.map((l) =>
       el('li', { className: l.holds ? 'holds' : 'fails' }, `${l.holds ? '✓' : '✗'} ${l.text}`))));
