@@ -298,6 +298,30 @@ inline std::string nonFinite(const Menu& menu) {
             return "row " + std::to_string(row) + ": " + shown.full + " | " + shown.value;
         }
     }
+    if (view.loading) {
+        const auto& v = *view.loading;
+        for (const auto& line : v.lines) {
+            for (const std::string& text : {line.volume.text, line.weight.text, line.arm.text,
+                                            line.moment, line.mac, line.note}) {
+                if (bad(text)) {
+                    return "sheet line " + line.name + ": " + text;
+                }
+            }
+        }
+        for (const auto& limit : v.limits) {
+            if (bad(limit.text)) {
+                return "limit: " + limit.text;
+            }
+        }
+        for (const std::string& text : {v.verdict, v.shift, v.ballast, v.target.text}) {
+            if (bad(text)) {
+                return "sheet: " + text;
+            }
+        }
+        if (v.chart && bad(v.chart->description)) {
+            return "chart: " + v.chart->description;
+        }
+    }
     return {};
 }
 

@@ -7,6 +7,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 namespace zel::test {
 namespace {
 
@@ -72,6 +74,44 @@ TEST(Sweep, EveryPairOfEntriesOnEveryPairOfRows) {
                         if (HasFailure()) {
                             return;
                         }
+                    }
+                }
+            }
+        }
+    }
+}
+
+TEST(Sweep, EveryPairOfEntriesOnEveryPairOfSheetCells) {
+    // The shipped C172S with an empty weight of its own, its taxi fuel, its
+    // combined baggage limit and its utility category's conditions.
+    Calculator base(Dot, 28);
+    const View view = base.menu.view();
+    const auto& shown = *view.loading;
+    int cells = shown.target.entry;
+    for (const auto& line : shown.lines) {
+        cells = std::max({cells, line.volume.entry, line.weight.entry, line.arm.entry});
+    }
+    ASSERT_GE(cells,
+              11); // empty weight and arm, five stations, fuel and burn both ways, the target
+    for (int first = 1; first <= cells; ++first) {
+        for (int second = 1; second <= cells; ++second) {
+            for (const auto& [a, aKeys] : Entries) {
+                for (const auto& [b, bKeys] : {Entries[2], Entries[4]}) {
+                    Calculator calc(Dot, 28);
+                    press(calc, "1642");
+                    calc.menu.clickRow(1);
+                    press(calc, "39.7");
+                    calc.menu.clickRow(2);
+                    press(calc, "240");
+                    calc.menu.clickRow(8);
+                    press(calc, aKeys);
+                    calc.menu.clickRow(first);
+                    press(calc, bKeys);
+                    calc.menu.clickRow(second);
+                    EXPECT_EQ(nonFinite(calc.menu), "")
+                        << a << " in cell " << first << ", then " << b << " in cell " << second;
+                    if (HasFailure()) {
+                        return;
                     }
                 }
             }
