@@ -135,16 +135,37 @@ void LoadingPanel::rebuild() {
     QFont font = m_content->font();
     font.setPointSizeF(8 * m_zoom);
     m_content->setFont(font);
-    auto* layout = new QVBoxLayout(m_content);
+    // Wide, the sheet keeps a width to read across and the chart takes the
+    // rest beside it; narrow, the chart follows the limits.
+    m_wide = wide() && !m_view.editor;
+    m_beside = nullptr;
+    auto* outer = new QHBoxLayout(m_content);
+    outer->setContentsMargins(0, 0, 0, 0);
+    auto* layout = new QVBoxLayout;
     layout->setContentsMargins(qRound(4 * m_zoom), qRound(4 * m_zoom), qRound(4 * m_zoom),
                                qRound(6 * m_zoom));
     layout->setSpacing(qRound(4 * m_zoom));
+    if (!m_wide) {
+        outer->addLayout(layout, 1);
+    } else {
+        auto* left = new QWidget;
+        left->setLayout(layout);
+        left->setMaximumWidth(qRound(430 * m_zoom));
+        outer->addWidget(left, 0, Qt::AlignTop);
+        m_beside = new QVBoxLayout;
+        m_beside->setContentsMargins(qRound(8 * m_zoom), qRound(4 * m_zoom), qRound(4 * m_zoom),
+                                     qRound(6 * m_zoom));
+        outer->addLayout(m_beside, 1);
+    }
     if (m_view.editor) {
         buildEditor(layout);
     } else {
         buildSheet(layout);
     }
     layout->addStretch(1);
+    if (m_beside != nullptr) {
+        m_beside->addStretch(1);
+    }
     // The old widgets go when the event that rebuilt them has ended: one of
     // them may be what sent it (an aircraft chosen from its list).
     if (QWidget* old = takeWidget()) {
@@ -322,7 +343,12 @@ void LoadingPanel::buildSheet(QVBoxLayout* layout) {
         m_chart->setMinimumHeight(qRound(210 * m_zoom));
         m_chart->setChart(*m_view.chart, m_night, m_zoom);
         m_chain.push_back(m_chart);
-        layout->addWidget(m_chart);
+        if (m_beside != nullptr) {
+            m_chart->setMinimumHeight(qRound(360 * m_zoom));
+            m_beside->addWidget(m_chart);
+        } else {
+            layout->addWidget(m_chart);
+        }
     }
     buildHelpers(layout);
     if (!m_view.source.empty()) {
@@ -541,6 +567,17 @@ void LoadingPanel::print(QPrinter& printer) {
 }
 
 LoadingPanel::~LoadingPanel() = default;
+
+bool LoadingPanel::wide() const {
+    return viewport()->width() >= qRound(700 * m_zoom);
+}
+
+void LoadingPanel::resizeEvent(QResizeEvent* event) {
+    QScrollArea::resizeEvent(event);
+    if (m_content != nullptr && wide() != m_wide && !m_view.editor) {
+        rebuild();
+    }
+}
 
 void LoadingPanel::printSheet() {
     // The box answers later, through its signal: the printer outlives this call.

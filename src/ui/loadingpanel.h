@@ -44,7 +44,12 @@ class LoadingPanel : public QScrollArea {
     /// The loading sheet and its chart, dated, on one page.
     void print(QPrinter& printer);
 
+  protected:
+    void resizeEvent(QResizeEvent* event) override;
+
   private:
+    /// Wide enough for the table and the chart side by side.
+    bool wide() const;
     void rebuild();
     void buildSheet(QVBoxLayout* layout);
     void buildHelpers(QVBoxLayout* layout);
@@ -63,6 +68,9 @@ class LoadingPanel : public QScrollArea {
     qreal m_zoom = 1;
     QWidget* m_content = nullptr;
     ChartWidget* m_chart = nullptr;
+    /// Where the chart goes when the panel is wide: beside the table.
+    QVBoxLayout* m_beside = nullptr;
+    bool m_wide = false; ///< the layout the widgets were built for
     std::vector<QWidget*> m_chain;
 };
 

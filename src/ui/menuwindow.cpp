@@ -395,6 +395,10 @@ void MenuWindow::render() {
     const bool loading = page && view.loading.has_value();
     m_rowsPanel->setVisible(!loading);
     m_loadingSheet->setVisible(loading);
+    if (loading != m_growing) {
+        allowGrowth(loading);
+        placeWidgets();
+    }
     if (loading) {
         if (m_loadingPanel == nullptr) {
             m_loadingPanel = new LoadingPanel(
@@ -402,7 +406,7 @@ void MenuWindow::render() {
                 m_loadingSheet);
             const QRect inside(2, 4, 269, m_designHeight - 36 - 126);
             m_placed.push_back({m_loadingPanel, inside, std::nullopt});
-            m_loadingPanel->setGeometry(QRect(inside.topLeft() * m_zoom, inside.size() * m_zoom));
+            placeWidgets();
             m_loadingPanel->show();
         }
         m_loadingPanel->render(*view.loading, m_night, m_zoom);

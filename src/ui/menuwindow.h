@@ -98,6 +98,7 @@ class MenuWindow : public QWidget {
     bool focusNextPrevChild(bool next) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
   private:
     void buildMenuFace();
@@ -173,6 +174,15 @@ class MenuWindow : public QWidget {
         std::optional<Look> look;
     };
     std::vector<Placed> m_placed;
+    /// Whether the window may be resized: on a sheet page only, which grows
+    /// with it; elsewhere it keeps the calculator's size.
+    bool m_growing = false;
+    /// Places the widgets at the zoom, the sheet and its page grown by what
+    /// the window is larger than the calculator.
+    void placeWidgets();
+    /// Lets the window be resized on a sheet page, and brings it back to the
+    /// calculator's size elsewhere.
+    void allowGrowth(bool growing);
     QLineEdit* m_placeEntry = nullptr;
     QLabel* m_note = nullptr;
     qreal m_zoom = 1;

@@ -4,6 +4,7 @@
 // clipboard, zoom, a night palette, a window that comes back where it was,
 // and an About box.
 #include "app/options.h"
+#include "ui/loadingpanel.h"
 #include "ui/menuwindow.h"
 
 #include <QApplication>
@@ -60,15 +61,11 @@ void MenuWindow::restyle() {
     if (!m_nightChosen) {
         m_night = darkDesktop();
     }
-    setFixedSize(QSize(DesignWidth, m_designHeight) * m_zoom);
+    const bool growing = m_growing;
+    m_growing = !growing; // set again, for the zoom
+    allowGrowth(growing);
+    placeWidgets();
     for (const Placed& placed : m_placed) {
-        if (placed.widget == nullptr) {
-            continue;
-        }
-        const QRect r = placed.geometry;
-        placed.widget->setGeometry(
-            QRect(QPoint(qRound(r.x() * m_zoom), qRound(r.y() * m_zoom)),
-                  QSize(qRound(r.width() * m_zoom), qRound(r.height() * m_zoom))));
         if (auto* f = qobject_cast<ZelFrame*>(placed.widget.data()); f && placed.look) {
             f->setStyle(lookStyle(*placed.look, m_night)); // render colours what has a state
             f->setScale(m_zoom);
@@ -77,6 +74,52 @@ void MenuWindow::restyle() {
     m_rowsPanel->setLineColor(textColours(m_night).line);
     refreshIcons();
     render();
+}
+
+void MenuWindow::allowGrowth(bool growing) {
+    if (growing == m_growing) {
+        return;
+    }
+    m_growing = growing;
+    const QSize calculator = QSize(DesignWidth, m_designHeight) * m_zoom;
+    if (growing) {
+        setMinimumSize(calculator);
+        setMaximumSize(QSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX));
+    } else {
+        setFixedSize(calculator); // back to the calculator's size, maximised or not
+        if (isMaximized()) {
+            showNormal();
+        }
+    }
+}
+
+void MenuWindow::placeWidgets() {
+    const QSize calculator = QSize(DesignWidth, m_designHeight) * m_zoom;
+    const QSize extra = m_growing ? (size() - calculator).expandedTo(QSize(0, 0)) : QSize(0, 0);
+    for (const Placed& placed : m_placed) {
+        if (placed.widget == nullptr) {
+            continue;
+        }
+        const QRect r = placed.geometry;
+        QRect at(QPoint(qRound(r.x() * m_zoom), qRound(r.y() * m_zoom)),
+                 QSize(qRound(r.width() * m_zoom), qRound(r.height() * m_zoom)));
+        // The sheet, and the page face and the title bar that hold it, take
+        // the room the window grew by; the calculator keeps its place.
+        const QWidget* w = placed.widget.data();
+        if (w == m_pageFace || w == m_loadingSheet || w == static_cast<QWidget*>(m_loadingPanel)) {
+            at.setSize(at.size() + extra);
+        } else if (w == m_titleBar) {
+            at.setWidth(at.width() + extra.width());
+        }
+        placed.widget->setGeometry(at);
+    }
+}
+
+void MenuWindow::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    if (m_growing) {
+        placeWidgets();
+    }
 }
 
 void MenuWindow::refreshIcons() {

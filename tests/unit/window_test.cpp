@@ -124,6 +124,24 @@ TEST_F(WindowTest, TheWeightAndBalanceSheetTakesTypedNumbersInItsCells) {
     }
 }
 
+TEST_F(WindowTest, TheWindowGrowsOnTheSheetAndComesBackToTheCalculatorsSize) {
+    const QSize calculator = window.size();
+    EXPECT_EQ(window.maximumSize(), calculator); // the calculator keeps its size
+    click(window.pageButton(28));
+    EXPECT_GT(window.maximumWidth(), 2000);
+    LoadingPanel* panel = window.loadingPanel();
+    ASSERT_NE(panel, nullptr);
+    const QSize before = panel->size();
+    window.resize(1100, 760);
+    QApplication::processEvents();
+    // The sheet takes the room the window grew by.
+    EXPECT_EQ(panel->size(), before + QSize(1100, 760) - calculator);
+    click(window.menuButton());
+    QApplication::processEvents();
+    EXPECT_EQ(window.size(), calculator);
+    EXPECT_EQ(window.maximumSize(), calculator);
+}
+
 TEST_F(WindowTest, TheLoadingSheetShowsEveryDigitAndScrollsOnlyWhenItMust) {
     // The shipped metric profile, whose moments in kg-mm run to six figures
     // and more: a real loading (empty 550 kg at 440 mm, 170 kg in front, 20 kg
