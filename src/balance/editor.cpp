@@ -63,7 +63,7 @@ class Numbers {
 
 ProfileEditor::ProfileEditor(const Aircraft& a, std::optional<std::string> replacing,
                              const Symbols& symbols)
-    : m_replacing(std::move(replacing)) {
+    : m_replacing(std::move(replacing)), m_symbols(symbols) {
     m_name = a.name;
     m_source = a.source;
     m_weightUnit = std::string(unitWord(a.units.weight));
@@ -199,8 +199,88 @@ std::string* ProfileEditor::field(std::string_view id) {
 }
 
 void ProfileEditor::edit(std::string_view id, std::string_view text) {
+    if (id == "weightUnit" || id == "armUnit" || id == "fuelUnit") {
+        changeUnit(id, text);
+        return;
+    }
     if (std::string* f = field(id)) {
         *f = std::string(text);
+    }
+}
+
+void ProfileEditor::changeUnit(std::string_view id, std::string_view text) {
+    // A unit changed converts every figure of its kind, so that the profile
+    // states the same aircraft: 2,550 lb becomes 1,156.66 kg, not 2,550 kg.
+    // A figure that is no number stays as typed, to be refused on Save.
+    double factor = 1;    // one old unit in new units
+    double densityBy = 1; // how a density (weight per fuel unit) changes
+    std::vector<std::string*> figures;
+    if (id == "weightUnit") {
+        const auto from = weightUnit(m_weightUnit);
+        const auto to = weightUnit(text);
+        if (from && to) {
+            factor = kilograms(*from) / kilograms(*to);
+            densityBy = factor;
+        }
+        figures = {&m_emptyWeight, &m_maxRamp, &m_maxTakeoff, &m_maxLanding, &m_maxZeroFuel};
+        for (StationFields& s : m_stations) {
+            figures.insert(figures.end(), {&s.max, &s.taxi});
+        }
+        for (CombinedFields& c : m_combined) {
+            figures.push_back(&c.max);
+        }
+        for (EnvelopeFields& e : m_envelopes) {
+            for (CornerFields& c : e.corners) {
+                figures.push_back(&c.weight);
+            }
+            for (ConditionFields& c : e.conditions) {
+                figures.push_back(&c.max);
+            }
+        }
+        m_weightUnit = std::string(text);
+    } else if (id == "armUnit") {
+        const auto from = armUnit(m_armUnit);
+        const auto to = armUnit(text);
+        if (from && to) {
+            factor = millimetres(*from) / millimetres(*to);
+        }
+        figures = {&m_emptyArm, &m_macEdge, &m_macLength};
+        for (StationFields& s : m_stations) {
+            figures.push_back(&s.arm);
+        }
+        for (EnvelopeFields& e : m_envelopes) {
+            for (CornerFields& c : e.corners) {
+                figures.push_back(&c.arm);
+            }
+        }
+        m_armUnit = std::string(text);
+    } else {
+        const auto from = fuelUnit(m_fuelUnit);
+        const auto to = fuelUnit(text);
+        if (from && to) {
+            factor = litres(*from) / litres(*to);
+            densityBy = 1 / factor; // the same weight in a larger unit of fuel
+        }
+        for (StationFields& s : m_stations) {
+            figures.insert(figures.end(), {&s.usable, &s.unusable});
+        }
+        m_fuelUnit = std::string(text);
+    }
+    auto convert = [this](std::string* figure, double by) {
+        if (by == 1 || blank(*figure)) {
+            return;
+        }
+        if (const auto value = readFigure(*figure, m_symbols)) {
+            *figure = numberText(*value * by, m_symbols);
+        }
+    };
+    for (std::string* figure : figures) {
+        convert(figure, factor);
+    }
+    if (id != "armUnit") {
+        for (StationFields& s : m_stations) {
+            convert(&s.density, densityBy);
+        }
     }
 }
 

@@ -93,6 +93,7 @@ class ProfileEditor {
                   const Symbols& symbols);
 
     const std::optional<std::string>& replacing() const { return m_replacing; }
+    /// A field typed into. A unit chosen converts every figure of its kind.
     void edit(std::string_view field, std::string_view text);
     /// Adds or removes a station, an envelope or a corner (not Save or Cancel).
     void apply(const FormAction& action);
@@ -122,8 +123,11 @@ class ProfileEditor {
         std::string stations, max;
     };
     std::string* field(std::string_view id);
+    /// A unit chosen anew, with every figure of its kind converted to it.
+    void changeUnit(std::string_view id, std::string_view text);
 
     std::optional<std::string> m_replacing;
+    Symbols m_symbols; ///< the regional symbols its figures are written with
     std::string m_name, m_source, m_weightUnit, m_armUnit, m_fuelUnit;
     std::string m_emptyWeight, m_emptyArm, m_divisor, m_macEdge, m_macLength;
     std::string m_maxRamp, m_maxTakeoff, m_maxLanding, m_maxZeroFuel;

@@ -379,3 +379,63 @@ TEST(LoadingBook, WrittenAndReadBackTheSameLeavingOutWhatIsNoLoading) {
 
 } // namespace
 } // namespace zel::test
+
+namespace zel::test {
+namespace {
+
+TEST(WeightBalancePage, TheEditorConvertsEveryFigureWhenAUnitChanges) {
+    Loaded calc;
+    calc.menu.editProfile();
+    auto field = [&](const std::string& id) {
+        const balance::LoadingView shown = calc.loading();
+        for (const auto& section : shown.editor->sections) {
+            for (const auto& f : section.fields) {
+                if (f.id == id) {
+                    return f.text;
+                }
+            }
+            for (const auto& row : section.rows) {
+                for (const auto& f : row.fields) {
+                    if (f.id == id) {
+                        return f.text;
+                    }
+                }
+            }
+        }
+        return std::string("no field ") + id;
+    };
+    auto number = [&](const std::string& id) { return readFigure(field(id), Dot).value_or(-1); };
+    // The pound is 0.45359237 kg, the inch 25.4 mm, the US gallon 3.785411784 L.
+    calc.menu.editField("weightUnit", "kg");
+    EXPECT_NEAR(number("maxTakeoff"), 2550 * 0.45359237, 1e-9); // 1,156.66 kg
+    EXPECT_NEAR(number("envelope.1.corner.3.weight"), 2550 * 0.45359237, 1e-9);
+    EXPECT_NEAR(number("combined.1.max"), 120 * 0.45359237, 1e-9);
+    EXPECT_NEAR(number("station.5.taxi"), 8 * 0.45359237, 1e-9);
+    EXPECT_NEAR(number("station.5.density"), 6 * 0.45359237, 1e-9); // kg per US gallon
+    EXPECT_EQ(field("envelope.1.corner.3.arm"), "41");              // an arm stays
+    calc.menu.editField("armUnit", "mm");
+    EXPECT_NEAR(number("envelope.1.corner.3.arm"), 41 * 25.4, 1e-9);
+    EXPECT_NEAR(number("macLength"), 58.8 * 25.4, 1e-9);
+    calc.menu.editField("fuelUnit", "L");
+    EXPECT_NEAR(number("station.5.usable"), 53 * 3.785411784, 1e-9);
+    EXPECT_NEAR(number("station.5.density"), 6 * 0.45359237 / 3.785411784, 1e-12);
+    // Back to pounds: the figure it started from.
+    calc.menu.editField("weightUnit", "lb");
+    EXPECT_NEAR(number("maxTakeoff"), 2550, 1e-9);
+    // Saved, the profile states the same aircraft: 2,321 kg is over its
+    // 1,156.66 kg, not within a limit relabelled 2,550 kg.
+    calc.menu.editField("weightUnit", "kg");
+    calc.menu.editField("name", "C172S metric");
+    calc.menu.pressFormButton({balance::FormAction::Kind::Save, 0, 0});
+    ASSERT_FALSE(calc.loading().editor);
+    EXPECT_EQ(calc.loading().aircraft, "C172S metric");
+    EXPECT_EQ(calc.loading().weightUnit, "kg");
+    calc.enter(1, "900");
+    calc.enter(2, "1008");
+    calc.enter(calc.line("Front seats").weight.entry, "1421");
+    EXPECT_FALSE(calc.loading().withinLimits);
+    EXPECT_TRUE(calc.holds("Takeoff: 1,164.34 kg over max takeoff")); // 2,321 - 1,156.66
+}
+
+} // namespace
+} // namespace zel::test
