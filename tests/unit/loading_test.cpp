@@ -318,7 +318,8 @@ TEST(WeightBalancePage, TheLoadingAndTheAircraftAreKeptAcrossARestartAndByName) 
                                  [](const auto& p) { return p.name == "D-EZEL"; });
     first.menu.chooseAircraft(static_cast<int>(at - profiles.begin()));
     auto cell = [](Calculator& calc, const std::string& station) {
-        for (const auto& line : calc.menu.view().loading->lines) {
+        const View view = calc.menu.view();
+        for (const auto& line : view.loading->lines) {
             if (line.name == station) {
                 return line.weight;
             }
