@@ -7,6 +7,7 @@
 #include "entry/numbertext.h"
 
 #include <array>
+#include <chrono>
 #include <optional>
 #include <string>
 #include <vector>
@@ -23,6 +24,9 @@ std::string figure(double value, const Symbols& symbols);
 /// An arm or a CG as the sheet shows it in its unit: 40.33 in, 461.9 mm,
 /// 0.523 m, 104.75 cm.
 std::string armFigure(double value, ArmUnit unit, const Symbols& symbols);
+
+/// A day as the sheet dates it: "2026-11-25".
+std::string isoDate(std::chrono::year_month_day day);
 
 /// "lb-in", "kg-mm", "lb-in/1000": the unit of the moments shown.
 std::string momentUnit(const Aircraft& aircraft);

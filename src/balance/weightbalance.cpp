@@ -11,7 +11,7 @@
 namespace zel::balance {
 namespace {
 
-constexpr std::string_view Title = "Weight & Balance";
+constexpr std::string_view Title = WeightBalanceTitle;
 
 std::string key(std::string_view name) {
     return lowerCase(name);
@@ -23,18 +23,7 @@ std::string reasonOf(const std::string& refusal) {
     return refusal.starts_with(Opening) ? refusal.substr(Opening.size()) : refusal;
 }
 
-std::string isoDate(std::chrono::year_month_day day) {
-    char text[16];
-    std::snprintf(text, sizeof text, "%04d-%02u-%02u", static_cast<int>(day.year()),
-                  static_cast<unsigned>(day.month()), static_cast<unsigned>(day.day()));
-    return text;
-}
-
 } // namespace
-
-static std::string bookPath(Storage& storage) {
-    return techPath(storage.programFolder(), LoadingBookName);
-}
 
 void WeightBalance::open() {
     if (!m_loaded) {
@@ -45,7 +34,7 @@ void WeightBalance::open() {
                                           "left as they are:");
             m_dialogs.message(MessageIcon::Exclamation, Title, std::move(faults));
         }
-        const FileRead file = m_storage.read(bookPath(m_storage));
+        const FileRead file = m_storage.read(techPath(m_storage.programFolder(), LoadingBookName));
         if (file.status == FileRead::Status::Ok) {
             const LoadingBook book = readBook(file.bytes);
             if (m_shelf.find(book.chosen)) {
@@ -250,98 +239,6 @@ void WeightBalance::clear() {
         m_input = 0;
         keepLoadings();
     }
-}
-
-void WeightBalance::keepLoadings() {
-    LoadingBook book;
-    book.chosen = m_chosen;
-    for (const auto& profile : m_shelf.profiles()) {
-        if (const Loading* l = loadingOf(profile.aircraft)) {
-            KeptLoading kept = keptLoading(profile.aircraft, *l);
-            if (!kept.weights.empty() || !kept.burns.empty()) {
-                book.current.push_back(std::move(kept));
-            }
-        }
-    }
-    for (const auto& [name, kept] : m_unplaced) {
-        if (!m_shelf.find(kept.aircraft)) {
-            book.current.push_back(kept);
-        }
-    }
-    book.named = m_named;
-    m_storage.update(
-        bookPath(m_storage),
-        [bytes = writeBook(book)](const FileRead&) -> std::optional<std::string> { return bytes; },
-        [this](bool saved) {
-            if (!saved && !m_bookFailed) {
-                message("The loadings could not be kept in the storage: they stay as they are "
-                        "while the program runs.");
-            }
-            m_bookFailed = !saved;
-        });
-}
-
-std::vector<std::size_t> WeightBalance::namedOfShown() const {
-    std::vector<std::size_t> list;
-    for (std::size_t i = 0; i < m_named.size(); ++i) {
-        if (key(m_named[i].aircraft) == key(m_chosen)) {
-            list.push_back(i);
-        }
-    }
-    return list;
-}
-
-void WeightBalance::saveLoading() {
-    const auto* profile = shown();
-    if (profile == nullptr || m_editor) {
-        return;
-    }
-    Request box;
-    box.kind = Request::Kind::Input;
-    box.icon = MessageIcon::Question;
-    box.title = std::string(Title);
-    box.paragraphs = {"A name for this loading of " + profile->aircraft.name +
-                      " (\"Solo, full fuel\"):"};
-    m_dialogs.ask(std::move(box), [this, aircraft = profile->aircraft.name](const Answer& answer) {
-        if (!answer.text) {
-            return;
-        }
-        std::string name = *answer.text;
-        name.erase(0, name.find_first_not_of(" \t"));
-        name.erase(name.find_last_not_of(" \t") + 1);
-        const auto at = m_shelf.find(aircraft);
-        if (name.empty() || !at) {
-            return;
-        }
-        const Aircraft& a = m_shelf.profiles()[*at].aircraft;
-        const Loading* held = loadingOf(a);
-        KeptLoading kept = keptLoading(a, held ? *held : Loading::emptyFor(a), name);
-        // A name saved again for the aircraft replaces what it held.
-        std::erase_if(m_named, [&](const KeptLoading& k) {
-            return key(k.aircraft) == key(aircraft) && key(k.name) == key(name);
-        });
-        m_named.push_back(std::move(kept));
-        keepLoadings();
-    });
-}
-
-void WeightBalance::recallLoading(int index) {
-    const std::vector<std::size_t> list = namedOfShown();
-    if (index < 0 || index >= static_cast<int>(list.size()) || m_editor) {
-        return;
-    }
-    loading() = loadingFrom(shown()->aircraft, m_named[list[static_cast<std::size_t>(index)]]);
-    m_input = 0;
-    keepLoadings();
-}
-
-void WeightBalance::deleteLoading(int index) {
-    const std::vector<std::size_t> list = namedOfShown();
-    if (index < 0 || index >= static_cast<int>(list.size()) || m_editor) {
-        return;
-    }
-    m_named.erase(m_named.begin() + static_cast<long>(list[static_cast<std::size_t>(index)]));
-    keepLoadings();
 }
 
 void WeightBalance::chooseAircraft(int index) {
@@ -561,197 +458,6 @@ void WeightBalance::pressFormButton(const FormAction& action, const Symbols& sym
     }
     m_editor.reset();
     keep(aircraft, replacing);
-}
-
-LoadingView WeightBalance::view(const Symbols& symbols, std::chrono::year_month_day today) const {
-    LoadingView v;
-    for (const auto& p : m_shelf.profiles()) {
-        v.profiles.push_back({p.aircraft.name, p.shipped});
-    }
-    if (m_editor) {
-        v.editor = m_editor->form();
-    }
-    const ProfileShelf::Profile* profile = shown();
-    if (profile == nullptr) {
-        return v;
-    }
-    v.chosen = static_cast<int>(*m_shelf.find(m_chosen));
-    const Aircraft& aircraft = profile->aircraft;
-    v.aircraft = aircraft.name;
-    v.source = aircraft.source;
-    v.canRename = !profile->shipped;
-    v.canDelete = !profile->shipped;
-    v.weightUnit = std::string(unitWord(aircraft.units.weight));
-    v.armUnit = std::string(unitWord(aircraft.units.arm));
-    v.fuelUnit = std::string(unitWord(aircraft.units.fuel));
-    v.momentUnit = momentUnit(aircraft);
-    v.columns = {"Station", "Weight - " + v.weightUnit, "Arm - " + v.armUnit,
-                 "Moment - " + v.momentUnit};
-    v.exportName = aircraft.name + ".json";
-    for (char& c : v.exportName) {
-        if (c == '/' || c == '\\' || c == ':') {
-            c = '_';
-        }
-    }
-    v.heading = aircraft.name + ", loading sheet of " + isoDate(today);
-
-    const std::vector<Entry> list = entries();
-    auto cell = [&](EntryKind kind, std::size_t station, std::string name) {
-        LoadingCell c;
-        for (std::size_t n = 0; n < list.size(); ++n) {
-            if (list[n].kind == kind &&
-                (list[n].station == station || kind == EntryKind::EmptyWeight ||
-                 kind == EntryKind::EmptyArm || kind == EntryKind::Target)) {
-                c.entry = static_cast<int>(n + 1);
-            }
-        }
-        if (const auto held = value(c.entry)) {
-            const bool arm = kind == EntryKind::EmptyArm || kind == EntryKind::Target;
-            c.text = arm ? armFigure(*held, aircraft.units.arm, symbols) : figure(*held, symbols);
-        }
-        c.input = c.entry == m_input;
-        c.name = std::move(name);
-        return c;
-    };
-
-    const Loading empty = Loading::emptyFor(aircraft);
-    const Loading* held = loadingOf(aircraft);
-    const Loading& l = held ? *held : empty;
-    Aircraft complete = aircraft;
-    if (!complete.empty) {
-        complete.empty = Mass{m_pendingWeight.value_or(0), m_pendingArm.value_or(0)};
-    }
-    const LoadSheet sheet = workOut(complete, l);
-    const double divisor = aircraft.momentDivisor;
-
-    LoadingLine emptyLine;
-    emptyLine.name = "Empty";
-    emptyLine.weight = cell(EntryKind::EmptyWeight, 0, "Empty weight - " + v.weightUnit);
-    emptyLine.arm = cell(EntryKind::EmptyArm, 0, "Empty arm - " + v.armUnit);
-    if (aircraft.empty) {
-        emptyLine.moment = figure(sheet.empty.moment / divisor, symbols);
-    } else {
-        v.missing = "Enter this aircraft's own empty weight and arm, from its weighing record: "
-                    "type each and click its cell. They are kept in your copy of the profile.";
-    }
-    v.lines.push_back(emptyLine);
-    for (std::size_t i = 0; i < aircraft.stations.size(); ++i) {
-        const Station& station = aircraft.stations[i];
-        const LoadSheet::Line& worked = sheet.stations[i];
-        LoadingLine line;
-        line.name = station.name;
-        if (station.fuel) {
-            line.volume =
-                cell(EntryKind::FuelVolume, i, station.name + " quantity - " + v.fuelUnit);
-        }
-        line.weight = cell(EntryKind::Weight, i, station.name + " weight - " + v.weightUnit);
-        line.arm.text = armFigure(station.arm, aircraft.units.arm, symbols);
-        if (l.weights[i]) {
-            line.moment = figure(worked.moment / divisor, symbols);
-        }
-        if (worked.overMax) {
-            line.flagged = true;
-            line.note = figure(worked.weight - *station.max, symbols) + " " + v.weightUnit +
-                        " over its max " + figure(*station.max, symbols) + " " + v.weightUnit;
-        } else if (worked.overUsable) {
-            line.flagged = true;
-            line.note =
-                figure(worked.weight / station.fuel->density - station.fuel->usable, symbols) +
-                " " + v.fuelUnit + " over its usable " + figure(station.fuel->usable, symbols) +
-                " " + v.fuelUnit;
-        }
-        v.lines.push_back(line);
-    }
-    if (sheet.unusable.weight > 0) {
-        LoadingLine line;
-        line.name = "Unusable fuel";
-        line.weight.text = figure(sheet.unusable.weight, symbols);
-        line.moment = figure(sheet.unusable.moment / divisor, symbols);
-        v.lines.push_back(line);
-    }
-    auto total = [&](Point point, const Condition& c) {
-        LoadingLine line;
-        line.name = std::string(pointName(point));
-        line.total = true;
-        line.weight.text = figure(c.weight, symbols);
-        line.arm.text = armFigure(c.cg(), aircraft.units.arm, symbols);
-        line.moment = figure(c.moment / divisor, symbols);
-        if (aircraft.mac) {
-            line.mac = figure(macPercent(*aircraft.mac, c.cg()), symbols) + " %MAC";
-        }
-        return line;
-    };
-    if (aircraft.empty) {
-        v.lines.push_back(total(Point::ZeroFuel, sheet.zeroFuel));
-        if (sheet.taxi.weight > 0) {
-            v.lines.push_back(total(Point::Ramp, sheet.ramp));
-            LoadingLine taxi;
-            taxi.name = "Taxi fuel";
-            taxi.weight.text = figure(-sheet.taxi.weight, symbols);
-            taxi.moment = figure(-sheet.taxi.moment / divisor, symbols);
-            v.lines.push_back(taxi);
-        }
-        v.lines.push_back(total(Point::Takeoff, sheet.takeoff));
-    }
-    for (std::size_t i = 0; i < aircraft.stations.size(); ++i) {
-        const Station& station = aircraft.stations[i];
-        if (!station.fuel) {
-            continue;
-        }
-        LoadingLine line;
-        line.name = "Burn " + station.name;
-        line.volume = cell(EntryKind::BurnVolume, i, line.name + " quantity - " + v.fuelUnit);
-        line.weight = cell(EntryKind::BurnWeight, i, line.name + " weight - " + v.weightUnit);
-        if (sheet.stations[i].overBurnt) {
-            line.flagged = true;
-            line.note = sheet.stations[i].taxi > 0 ? "more than the fuel loaded less the taxi fuel"
-                                                   : "more than the fuel loaded";
-        }
-        v.lines.push_back(line);
-    }
-    if (aircraft.empty) {
-        v.lines.push_back(total(Point::Landing, sheet.landing));
-        v.limits = limitLines(aircraft, sheet, symbols);
-        const Verdict said = verdict(aircraft, sheet, symbols);
-        v.withinLimits = said.holds;
-        v.verdict = said.text;
-        v.chart = chart(aircraft, sheet, symbols);
-    }
-
-    for (const Station& station : aircraft.stations) {
-        v.stations.push_back(station.name);
-    }
-    for (std::size_t i : namedOfShown()) {
-        v.savedLoadings.push_back(m_named[i].name);
-    }
-    v.shiftFrom = m_shiftFrom;
-    v.shiftTo = m_shiftTo;
-    v.ballastAt = m_ballastAt;
-    v.target = cell(EntryKind::Target, 0, "Target CG - " + v.armUnit);
-    if (aircraft.empty && m_target) {
-        if (m_shiftFrom > 0 && m_shiftTo > 0) {
-            v.shift = shiftText(aircraft, sheet, static_cast<std::size_t>(m_shiftFrom - 1),
-                                static_cast<std::size_t>(m_shiftTo - 1), *m_target, symbols);
-        }
-        if (m_ballastAt > 0) {
-            v.ballast = ballastText(aircraft, sheet, static_cast<std::size_t>(m_ballastAt - 1),
-                                    *m_target, symbols);
-        }
-    }
-    if (aircraft.empty) {
-        std::optional<Helper> helper;
-        if (!v.shift.empty()) {
-            helper =
-                Helper{Helper::Kind::Shift, *m_target, static_cast<std::size_t>(m_shiftFrom - 1),
-                       static_cast<std::size_t>(m_shiftTo - 1)};
-        } else if (!v.ballast.empty()) {
-            helper = Helper{Helper::Kind::Ballast, *m_target,
-                            static_cast<std::size_t>(m_ballastAt - 1), 0};
-        }
-        v.sheet = sheetText(aircraft, l, symbols, helper);
-        v.printed = printedSheet(aircraft, l, symbols, isoDate(today), helper);
-    }
-    return v;
 }
 
 } // namespace zel::balance

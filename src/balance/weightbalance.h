@@ -16,6 +16,9 @@
 
 namespace zel::balance {
 
+/// The page's title, which its boxes carry.
+inline constexpr std::string_view WeightBalanceTitle = "Weight & Balance";
+
 /// The Weight & Balance page: the aircraft chosen, what is loaded in each,
 /// the helpers, and the profiles with their editor. A number typed into the
 /// calculator goes into a cell of the sheet as into a row: each cell the user

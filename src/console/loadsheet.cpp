@@ -185,11 +185,8 @@ int runLoadsheet(const Options& options, const ConsoleMachine& machine, const Sh
     }
     std::cout << sheetText(aircraft, loading, symbols, helper);
     if (pdf) {
-        const std::chrono::year_month_day day = platform.clock.today();
-        char date[16];
-        std::snprintf(date, sizeof date, "%04d-%02u-%02u", static_cast<int>(day.year()),
-                      static_cast<unsigned>(day.month()), static_cast<unsigned>(day.day()));
-        if (const auto fault = pdf(printedSheet(aircraft, loading, symbols, date, helper))) {
+        if (const auto fault = pdf(printedSheet(aircraft, loading, symbols,
+                                                isoDate(platform.clock.today()), helper))) {
             std::cerr << "error: " << *fault << '\n';
             return 2;
         }
